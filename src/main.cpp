@@ -17,6 +17,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(AppInfo::applicationName);
 
     QApplication app(argc, argv);
+    Q_INIT_RESOURCE(rostera);
     QCoreApplication::addLibraryPath("./plugins");
 
     const int language = QSettings(getAppDataPath(0), QSettings::IniFormat).value("language", "0").toString().toInt();

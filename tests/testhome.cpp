@@ -27,6 +27,7 @@ TestHome::TestHome()
     QCoreApplication::setOrganizationDomain(AppInfo::organizationDomain);
     QCoreApplication::setApplicationVersion(AppInfo::applicationVersion);
     QCoreApplication::setApplicationName(AppInfo::applicationName);
+    Q_INIT_RESOURCE(rostera);
 }
 
 TestHome::~TestHome()
