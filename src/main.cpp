@@ -1,8 +1,6 @@
 #include <QApplication>
-#include <QMessageBox>
 #include <QSettings>
 
-#include "core/appinfo.h"
 #include "core/apppaths.h"
 #include "mainwindow/appstart.h"
 #include "mainwindow/rosteramain.h"
@@ -10,11 +8,7 @@
 
 int main(int argc, char **argv)
 {
-    // The data location depends on these, so they come before the application object.
-    QCoreApplication::setOrganizationName(AppInfo::organizationName);
-    QCoreApplication::setOrganizationDomain(AppInfo::organizationDomain);
-    QCoreApplication::setApplicationVersion(AppInfo::applicationVersion);
-    QCoreApplication::setApplicationName(AppInfo::applicationName);
+    setApplicationIdentity();
 
     QApplication app(argc, argv);
     Q_INIT_RESOURCE(rostera);
@@ -24,10 +18,8 @@ int main(int argc, char **argv)
     installTranslators(chooseLanguageCode(language, QLocale::system().name()));
     useWarningBoxes();
 
-    if (!getDB()->openDB(QString())) {
-        QMessageBox::warning(nullptr, QString(), QObject::tr("Open Database Failed!"), QMessageBox::Ok);
+    if (!openStartDatabase())
         return 0;
-    }
 
     RosteraMain window;
     window.showMaximized();

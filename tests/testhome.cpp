@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <unistd.h>
 
-#include "core/appinfo.h"
+#include "mainwindow/appstart.h"
 
 static QString g_home;
 
@@ -23,10 +23,7 @@ TestHome::TestHome()
     QDir().mkpath(g_home + "/run");
     QDir().mkpath(g_home + "/tmp");
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    QCoreApplication::setOrganizationName(AppInfo::organizationName);
-    QCoreApplication::setOrganizationDomain(AppInfo::organizationDomain);
-    QCoreApplication::setApplicationVersion(AppInfo::applicationVersion);
-    QCoreApplication::setApplicationName(AppInfo::applicationName);
+    setApplicationIdentity();
     Q_INIT_RESOURCE(rostera);
 }
 

@@ -5,7 +5,16 @@
 #include <QStringList>
 #include <QTranslator>
 
+#include "core/appinfo.h"
 #include "persistence/databasefunc.h"
+
+void setApplicationIdentity()
+{
+    QCoreApplication::setOrganizationName(AppInfo::organizationName);
+    QCoreApplication::setOrganizationDomain(AppInfo::organizationDomain);
+    QCoreApplication::setApplicationVersion(AppInfo::applicationVersion);
+    QCoreApplication::setApplicationName(AppInfo::applicationName);
+}
 
 QString chooseLanguageCode(int language, const QString &systemLocale)
 {
@@ -47,4 +56,12 @@ static void warningBox(const QString &text)
 void useWarningBoxes()
 {
     setWarningHandler(warningBox);
+}
+
+bool openStartDatabase()
+{
+    if (getDB()->openDB(QString()))
+        return true;
+    QMessageBox::warning(nullptr, QString(), QObject::tr("Open Database Failed!"), QMessageBox::Ok);
+    return false;
 }

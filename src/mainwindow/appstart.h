@@ -2,6 +2,10 @@
 
 #include <QString>
 
+// Organization and application names, domain and version. The data location depends on
+// them, so they are set before the application object exists.
+void setApplicationIdentity();
+
 // Language code for the stored "language" value: 0 follows the system locale,
 // 1 is English (no code), 2 to 10 pick from the language list; anything else: no code.
 QString chooseLanguageCode(int language, const QString &systemLocale);
@@ -11,3 +15,7 @@ void installTranslators(const QString &code);
 
 // Warnings raised inside the database layer are shown as warning boxes.
 void useWarningBoxes();
+
+// Opens the database named by "lastdb" (or the default one); on failure warns
+// "Open Database Failed!" and answers false, and the program ends.
+bool openStartDatabase();
