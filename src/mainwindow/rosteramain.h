@@ -32,7 +32,7 @@ public:
     // The option "employee lock schedule".
     bool employeeLockSchedule = false;
 
-    // --- grid (mainwindow/grid.cpp) ---
+    // --- grid (mainwindow/grid.cpp, viewcontrols.cpp, framecommands.cpp) ---
     QVector<QDate> cycleDates;
     QStringList rowLabels;
     QVector<ASAttribute> gridRows;
@@ -45,6 +45,11 @@ public:
     void refreshStaffCmb();
     void settingsChange();
     void updateTitle();
+    // Refills both boxes and the title with the grid held back, makes the given texts current
+    // where they exist, then redraws once.
+    void refillView(const QString &group, const QString &person);
+    // Reads the option "employee lock schedule"; the status bar shows only with it off.
+    void readLockOption();
 
     // --- engine state ---
     QVector<ASAttribute> holidays;

@@ -1,0 +1,98 @@
+#include "mainwindow/rosteramain.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSettings>
+#include <QUrl>
+
+#include "core/appinfo.h"
+#include "core/apppaths.h"
+#include "persistence/databasefunc.h"
+#include "ui_rosteramain.h"
+
+void RosteraMain::updateTitle()
+{
+    // baseName stops at the first dot: "my.plan.db" is shown as "my".
+    const QString title = tr("Rostera-%1").arg(QFileInfo(getDB()->getDBName()).baseName());
+    if (windowTitle() != title)
+        setWindowTitle(title);
+}
+
+void RosteraMain::on_actionOpen_Database_triggered()
+{
+    const QString start = QSettings(getAppDataPath(0), QSettings::IniFormat)
+                              .value("lastdb", getAppDataPath(1) + "//default.db")
+                              .toString();
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open Database"), start, tr("DB File(*.db)"));
+    if (path.isEmpty())
+        return;
+    // On failure the previous file stays open and the window as it was.
+    if (!getDB()->openDB(path)) {
+        QMessageBox::warning(this, QString(), tr("Open database failed!"), QMessageBox::Ok);
+        return;
+    }
+    refillView(QString(), QString());
+}
+
+// A save-as by file copy: every change is in the open file already.
+void RosteraMain::on_actionSave_Database_triggered()
+{
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save As Database"), getAppDataPath(1), tr("DB File(*.db)"));
+    const QString current = getDB()->getDBName();
+    if (path.isEmpty() || current.isEmpty())
+        return;
+    // QFile::copy never overwrites, even when the user agreed to replace the file.
+    if (!QFile::copy(current, path)) {
+        QMessageBox::warning(this, QString(), tr("Save as database failed!"), QMessageBox::Ok);
+        return;
+    }
+    // Same contents, so the grid stays; only the title names the new file.
+    getDB()->openDB(path);
+    updateTitle();
+}
+
+void RosteraMain::on_actionExit_triggered()
+{
+    close();
+}
+
+void RosteraMain::on_select_language()
+{
+    const int position = int(ui->menuLanguage->actions().indexOf(qobject_cast<QAction *>(sender())));
+    if (position < 0)
+        return;
+    QSettings settings(getAppDataPath(0), QSettings::IniFormat);
+    if (settings.value("language", "0").toString().toInt() == position)
+        return;
+    // Nothing is retranslated while the program runs.
+    QMessageBox::information(this, QString(), tr("Language change will take effect after the restart of the software."),
+                             QMessageBox::Ok);
+    settings.setValue("language", position);
+}
+
+void RosteraMain::on_action_Help_triggered()
+{
+    const QString helpFile = getAppPath() + "/Rostera.chm";
+    // The help viewer exists on Windows only; wherever it can't show the file, the online help can.
+    if (!QFile::exists(helpFile) || !QProcess::startDetached("hh.exe", {helpFile}))
+        QDesktopServices::openUrl(QUrl(QString("http://%1%2").arg(AppInfo::webHost, AppInfo::onlineHelpPath)));
+}
+
+void RosteraMain::on_action_Website_triggered()
+{
+    QDesktopServices::openUrl(QUrl(AppInfo::homePage));
+}
+
+void RosteraMain::on_action_About_triggered()
+{
+    const QString name = QCoreApplication::applicationName();
+    const QString maker = tr("Made by %1, <a href=\"%2\">%2</a>").arg(AppInfo::organizationName, AppInfo::homePage);
+    QMessageBox::about(centralWidget(), tr("About") + " " + name,
+                       "<p>" + name + "<br><br>" + maker + "<br><br>" + "\n\n" + tr("Version") + ": "
+                           + QCoreApplication::applicationVersion() + "<br><br>" + "</p>");
+}
