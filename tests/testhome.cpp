@@ -1,6 +1,8 @@
 #include "testhome.h"
 
 #include <QDir>
+#include <QFile>
+#include <QPushButton>
 
 #include <cstdlib>
 #include <unistd.h>
@@ -21,6 +23,7 @@ TestHome::TestHome()
     setenv("XDG_RUNTIME_DIR", (home + "/run").constData(), 1);
     setenv("TMPDIR", (home + "/tmp").constData(), 1);
     QDir().mkpath(g_home + "/run");
+    QFile::setPermissions(g_home + "/run", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     QDir().mkpath(g_home + "/tmp");
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     setApplicationIdentity();
