@@ -1,0 +1,149 @@
+#include <QStringList>
+
+#include "core/schedulelookup.h"
+#include "engine/enginecommon.h"
+#include "mainwindow/rosteramain.h"
+#include "persistence/databasefunc.h"
+
+// Whether date lies in the span of days days from first on. An invalid first never matches,
+// and neither does a span of 0 days.
+static bool inSpan(const QDate &date, const QDate &first, int days)
+{
+    return first <= date && date <= first.addDays(days - 1);
+}
+
+bool RosteraMain::checkHoliday(const QDate &date)
+{
+    for (const ASAttribute &holiday : holidays) {
+        const QDate first = QDate::fromString(holiday.attr("date", QString()), "yyyy-MM-dd");
+        const int days = holiday.attr("days", 1);
+        if (holiday.attr("repeat", 1) == 0) {
+            if (inSpan(date, first, days))
+                return true;
+            continue;
+        }
+        // A repeating span is anchored in the tested year, or in the year before so that a
+        // span that began in December still covers January.
+        const QDate thisYear(date.year(), first.month(), first.day());
+        if (thisYear.isValid() && inSpan(date, thisYear, days))
+            return true;
+        if (!thisYear.isValid() || date < thisYear) {
+            const QDate lastYear(date.year() - 1, first.month(), first.day());
+            if (lastYear.isValid() && inSpan(date, lastYear, days))
+                return true;
+        }
+    }
+    return false;
+}
+
+bool RosteraMain::checkVacation(const QDate &date, const QString &staffId)
+{
+    for (const ASAttribute &vacation : vacations) {
+        const QString ids = vacation.attr("staffids", QString());
+        if (!ids.contains(staffId))
+            continue;
+        const QDate first = QDate::fromString(vacation.attr("date", QString()), "yyyy-MM-dd");
+        if (!inSpan(date, first, vacation.attr("days", 1)))
+            continue;
+        // The substring test above is only a quick filter: "1" must not match "11;12".
+        if (ids.split(';').contains(staffId))
+            return true;
+    }
+    return false;
+}
+
+QString RosteraMain::getNextValidStaff(const QDate &date, QVector<ASAttribute *> &staffs, int &index, int dayPos,
+                                       const QString &shiftname, int pass)
+{
+    const int n = staffs.size();
+    if (n < 1)
+        return QString();
+    const int start = index % n;
+    const QString dayKey = QString::number(dayPos);
+    const QString previousDayKey = QString::number(dayPos - 1);
+    int pos = start;
+    // Three laps of the ring; the first keeps both fairness limits (no extras, no same shift
+    // on consecutive dates), the later two lift them.
+    for (int tries = 0;; ++tries) {
+        index = pos;
+        ASAttribute *candidate = pass > 1 ? staffs[shuffledStaff[pos]] : staffs[pos];
+        const QString id = candidate->attr("id", QString());
+        const bool firstLap = tries < n;
+        bool over = false;
+        if (!checkVacation(date, id) && checkAssNumValid(*candidate, shiftname, over, !firstLap)
+            && !(dayPos > 0 && firstLap && candidate->attr(previousDayKey, QString()) == shiftname)
+            && candidate->attr(dayKey, QString()).isEmpty()) {
+            candidate->setAttr(dayKey, shiftname);
+            countOne(*candidate, shiftname + "_ass");
+            countOne(assignStats, shiftname + "_ass");
+            if (over)
+                countOne(assignStats, shiftname + "_ovr");
+            // One place per success, however many were skipped: a skipped employee comes first
+            // next time. The index is reduced by the next call.
+            index = start + 1;
+            return id;
+        }
+        if (tries + 1 >= 3 * n) {
+            index = start;
+            return QString();
+        }
+        pos = (index + 1) % n;
+    }
+}
+
+ASAttribute RosteraMain::getDaySchedule(QVector<ASAttribute> &list, const QString &groupname, const QString &shiftname,
+                                        const QString &date)
+{
+    int pos = -1;
+    const ASAttribute record = getSchedule(date, groupname, shiftname, list, &pos);
+    return pos < 0 ? ASAttribute() : record;
+}
+
+static const ASAttribute &recordOf(const ASAttribute &record)
+{
+    return record;
+}
+
+static const ASAttribute &recordOf(const ASAttribute *record)
+{
+    return *record;
+}
+
+template <typename List>
+static int findStaff(const List &list, const QString &id)
+{
+    for (int i = 0; i < list.size(); ++i) {
+        if (recordOf(list.at(i)).attr("id", QString()) == id)
+            return i;
+    }
+    return -1;
+}
+
+int RosteraMain::getStaff(QVector<ASAttribute> &list, const QString &id)
+{
+    return findStaff(list, id);
+}
+
+int RosteraMain::getStaff(QVector<ASAttribute *> &list, const QString &id)
+{
+    return findStaff(list, id);
+}
+
+// The check builds its list of employees lazily from the cached list of all of them.
+int RosteraMain::checkStaffExist(QVector<ASAttribute> &list, const QString &groupname, const QString &id)
+{
+    const auto matches = [&](const ASAttribute &staff) {
+        return staff.attr("groupname", QString()) == groupname && staff.attr("id", QString()) == id;
+    };
+    for (int i = 0; i < list.size(); ++i) {
+        if (matches(list.at(i)))
+            return i;
+    }
+    for (const ASAttribute &staff : getDB()->staffs) {
+        if (matches(staff)) {
+            list.append(staff);
+            return list.size() - 1;
+        }
+    }
+    return -1;
+}
