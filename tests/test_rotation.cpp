@@ -1,0 +1,265 @@
+// Availability and the rotation: holidays, vacations, the choice of the next employee, and
+// the lookups of records in lists.
+#include "testhome.h"
+
+#include "core/schedulelookup.h"
+#include "enginefixture.h"
+#include "ui_rosteramain.h"
+
+class TestRotation : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void holidays_data();
+    void holidays();
+    void vacations_data();
+    void vacations();
+    void secondLapLiftsConsecutiveRule();
+    void vacationCostsNoRotationPlace();
+    void usedUpShareLeavesIndex();
+    void laterPassesFollowShuffle();
+    void extrasAreCounted();
+    void scheduleLookups();
+    void staffLookups();
+
+private:
+    RosteraMain *window = nullptr;
+    QVector<ASAttribute> copies;
+    QVector<ASAttribute *> ring;
+    void makeRing(const QStringList &ids, float share);
+};
+
+void TestRotation::initTestCase()
+{
+    QVERIFY(getDB()->openDB(QString()));
+    window = new RosteraMain;
+}
+
+void TestRotation::cleanupTestCase()
+{
+    delete window;
+    getDB()->closeDB();
+}
+
+void TestRotation::init()
+{
+    window->holidays.clear();
+    window->vacations.clear();
+    window->assignStats.clear();
+}
+
+// A ring of working copies and a share of "S" for each of them, over a demand that is
+// share times the head count.
+void TestRotation::makeRing(const QStringList &ids, float share)
+{
+    copies.clear();
+    ring.clear();
+    for (const QString &id : ids)
+        copies << staff(id, "G");
+    for (ASAttribute &copy : copies)
+        ring << &copy;
+    window->assignStats.setAttr("S_ave", share);
+    window->assignStats.setAttr("S_num", share * ids.size());
+    window->assignStats.setAttr("S_int", float(ids.size() * int(share)));
+    window->shuffledStaff.clear();
+    for (int i = 0; i < ids.size(); ++i)
+        window->shuffledStaff << i;
+}
+
+void TestRotation::holidays_data()
+{
+    QTest::addColumn<QVector<ASAttribute>>("records");
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<bool>("holiday");
+
+    const QVector<ASAttribute> newYear{holiday("2001-12-30", 5, 1)};
+    QTest::newRow("repeating, by last year's anchor") << newYear << QDate(2026, 1, 3) << true;
+    QTest::newRow("repeating, past its end") << newYear << QDate(2026, 1, 4) << false;
+    QTest::newRow("repeating, by this year's anchor") << newYear << QDate(2026, 12, 31) << true;
+    QTest::newRow("repeating, before its start") << newYear << QDate(2026, 12, 29) << false;
+    const QVector<ASAttribute> once{holiday("2026-03-02", 3, 0)};
+    QTest::newRow("once, first day") << once << QDate(2026, 3, 2) << true;
+    QTest::newRow("once, last day") << once << QDate(2026, 3, 4) << true;
+    QTest::newRow("once, day after") << once << QDate(2026, 3, 5) << false;
+    QTest::newRow("once, day before") << once << QDate(2026, 3, 1) << false;
+    QTest::newRow("once, a year later") << once << QDate(2027, 3, 2) << false;
+    QTest::newRow("no days covers nothing") << QVector<ASAttribute>{holiday("2026-03-02", 0, 0)} << QDate(2026, 3, 2)
+                                            << false;
+    const QVector<ASAttribute> leap{holiday("2024-02-29", 2, 1)};
+    QTest::newRow("29 February, leap year") << leap << QDate(2028, 2, 29) << true;
+    QTest::newRow("29 February, its second day") << leap << QDate(2028, 3, 1) << true;
+    QTest::newRow("29 February, common year, 28th") << leap << QDate(2026, 2, 28) << false;
+    QTest::newRow("29 February, common year, 1 March") << leap << QDate(2026, 3, 1) << false;
+    QTest::newRow("29 February, the year after a leap year") << leap << QDate(2025, 3, 1) << false;
+    ASAttribute oneDay = holiday("2026-05-01", 1, 1);
+    oneDay.remove("days");
+    QTest::newRow("days default to one") << QVector<ASAttribute>{oneDay} << QDate(2030, 5, 1) << true;
+    QTest::newRow("days default to one, next day") << QVector<ASAttribute>{oneDay} << QDate(2030, 5, 2) << false;
+    QTest::newRow("unreadable date") << QVector<ASAttribute>{holiday("soon", 400, 0)} << QDate(2026, 3, 2) << false;
+    QTest::newRow("second record matches") << QVector<ASAttribute>{holiday("2026-01-01", 1, 0), oneDay}
+                                           << QDate(2026, 5, 1) << true;
+}
+
+void TestRotation::holidays()
+{
+    QFETCH(QVector<ASAttribute>, records);
+    QFETCH(QDate, date);
+    QFETCH(bool, holiday);
+    window->holidays = records;
+    QCOMPARE(window->checkHoliday(date), holiday);
+}
+
+void TestRotation::vacations_data()
+{
+    QTest::addColumn<QString>("staffids");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<bool>("away");
+
+    const QDate first(2026, 3, 2);
+    QTest::newRow("listed, first day") << "11;1" << "1" << first << true;
+    QTest::newRow("listed, last day") << "11;1" << "1" << first.addDays(2) << true;
+    QTest::newRow("listed, day after") << "11;1" << "1" << first.addDays(3) << false;
+    QTest::newRow("listed, day before") << "11;1" << "1" << first.addDays(-1) << false;
+    QTest::newRow("only inside other ids") << "11;21" << "1" << first << false;
+    QTest::newRow("not listed") << "2;3" << "1" << first << false;
+}
+
+void TestRotation::vacations()
+{
+    QFETCH(QString, staffids);
+    QFETCH(QString, id);
+    QFETCH(QDate, date);
+    QFETCH(bool, away);
+    window->vacations = {vacation("9", "2026-03-02", 10), vacation(staffids, "2026-03-02", 3)};
+    QCOMPARE(window->checkVacation(date, id), away);
+}
+
+// Two employees, one a day over four dates: the share is 2. After the first pick the other one
+// comes next; the first cannot take the next date in the first lap, but can in the second.
+void TestRotation::secondLapLiftsConsecutiveRule()
+{
+    makeRing({"A", "B"}, 2);
+    const QDate monday(2026, 3, 2);
+    int index = 0;
+    QCOMPARE(window->getNextValidStaff(monday, ring, index, 0, "S", 2), QString("A"));
+    QCOMPARE(index, 1);
+    index = 0;
+    QCOMPARE(window->getNextValidStaff(monday.addDays(1), ring, index, 1, "S", 2), QString("B"));
+    QCOMPARE(index, 1);
+    // B has the date already, A worked the same shift the day before: only the second lap takes A.
+    QCOMPARE(window->getNextValidStaff(monday.addDays(1), ring, index, 1, "S", 2), QString("A"));
+    QCOMPARE(index, 2); // unreduced
+    QCOMPARE(copies[0].attr("0", QString()), QString("S"));
+    QCOMPARE(copies[0].attr("1", QString()), QString("S"));
+    QCOMPARE(copies[0].attr("S_ass", QString()), QString("2"));
+    QCOMPARE(window->assignStats.attr("S_ass", QString()), QString("3"));
+    // One shift per date, in every lap.
+    QCOMPARE(window->getNextValidStaff(monday.addDays(1), ring, index, 1, "S", 2), QString());
+    QCOMPARE(index, 0);
+}
+
+void TestRotation::vacationCostsNoRotationPlace()
+{
+    makeRing({"A", "B", "C"}, 5);
+    window->vacations = {vacation("A", "2026-03-02", 7)};
+    const QDate monday(2026, 3, 2);
+    int index = 0;
+    QCOMPARE(window->getNextValidStaff(monday, ring, index, 0, "S", 2), QString("B"));
+    QCOMPARE(index, 1);
+    QCOMPARE(window->getNextValidStaff(monday, ring, index, 0, "S", 2), QString("C"));
+    QCOMPARE(index, 2);
+    // Next date: C and B worked the shift the day before, A is away; the second lap takes C.
+    QCOMPARE(window->getNextValidStaff(monday.addDays(1), ring, index, 1, "S", 2), QString("C"));
+    QCOMPARE(index, 3);
+    QVERIFY(copies[0].attr("0", QString()).isEmpty());
+    QVERIFY(copies[0].attr("S_ass", QString()).isEmpty());
+}
+
+void TestRotation::usedUpShareLeavesIndex()
+{
+    makeRing({"A", "B"}, 1);
+    for (ASAttribute &copy : copies)
+        copy.setAttr("S_ass", 1.0f);
+    int index = 3;
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 2), ring, index, 0, "S", 2), QString());
+    QCOMPARE(index, 1);
+    QVector<ASAttribute *> nobody;
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 2), nobody, index, 0, "S", 0), QString());
+    QCOMPARE(index, 1);
+}
+
+// Passes 0 and 1 take the list as it is, pass 2 through the shuffle.
+void TestRotation::laterPassesFollowShuffle()
+{
+    makeRing({"A", "B", "C"}, 5);
+    window->shuffledStaff = {2, 0, 1};
+    int index = 1;
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 2), ring, index, 0, "S", 2), QString("A"));
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 2), ring, index, 0, "S", 0), QString("C"));
+    // The next date starts at A, who worked the shift the day before.
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 3), ring, index, 1, "S", 0), QString("B"));
+    QCOMPARE(index, 1);
+}
+
+// Share 1.5 for two employees: once the whole shares are used up each may take one extra,
+// and every extra is counted.
+void TestRotation::extrasAreCounted()
+{
+    makeRing({"A", "B"}, 1.5f);
+    const QDate monday(2026, 3, 2);
+    int index = 0;
+    QStringList picks;
+    for (int day = 0; day < 5; ++day)
+        picks << window->getNextValidStaff(monday.addDays(day), ring, index, day, "S", 2);
+    QCOMPARE(picks, QStringList({"A", "B", "A", "B", ""}));
+    QCOMPARE(window->assignStats.attr("S_ovr", QString()), QString("2"));
+    QCOMPARE(window->assignStats.attr("S_ass", QString()), QString("4"));
+}
+
+void TestRotation::scheduleLookups()
+{
+    QVector<ASAttribute> list{scheduleRecord("2026-03-02", "G", "S", "1"), scheduleRecord("2026-03-02", "G", "T", "2"),
+                              scheduleRecord("2026-03-02", "G", "T", "3")};
+    int pos = 7;
+    QCOMPARE(getSchedule("2026-03-02", "G", "T", list, &pos).attr("staffs", QString()), QString("2"));
+    QCOMPARE(pos, 1);
+    const ASAttribute missing = getSchedule("2026-03-03", "G", "T", list, &pos);
+    QCOMPARE(pos, -1);
+    QCOMPARE(missing.values(), record({{"infotype", "schedule"}, {"date", "2026-03-03"}, {"groupname", "G"},
+                                       {"shiftname", "T"}})
+                                   .values());
+    QCOMPARE(getSchedule("2026-03-02", "", "S", list, nullptr).attr("staffs", QString("none")), QString("none"));
+    QCOMPARE(window->getDaySchedule(list, "G", "S", "2026-03-02").attr("staffs", QString()), QString("1"));
+    QVERIFY(window->getDaySchedule(list, "H", "S", "2026-03-02").values().isEmpty());
+}
+
+void TestRotation::staffLookups()
+{
+    Plan plan;
+    plan.groups = {"G", "H"};
+    plan.staffs = {staff("1", "G"), staff("2", "H")};
+    QVERIFY(writePlan(plan));
+    QVector<ASAttribute> list{staff("5", "G"), staff("1", "G"), staff("1", "H")};
+    QCOMPARE(window->getStaff(list, "1"), 1);
+    QCOMPARE(window->getStaff(list, "7"), -1);
+    QVector<ASAttribute *> pointers{&list[2], &list[0]};
+    QCOMPARE(window->getStaff(pointers, "5"), 1);
+    QCOMPARE(window->getStaff(pointers, "2"), -1);
+
+    // The check's list grows from the cached employees, by group and id.
+    QVector<ASAttribute> known;
+    QCOMPARE(window->checkStaffExist(known, "G", "1"), 0);
+    QCOMPARE(window->checkStaffExist(known, "H", "2"), 1);
+    QCOMPARE(window->checkStaffExist(known, "G", "1"), 0);
+    QCOMPARE(known.size(), 2);
+    QCOMPARE(window->checkStaffExist(known, "H", "1"), -1);
+    QCOMPARE(window->checkStaffExist(known, "G", "9"), -1);
+    QCOMPARE(known.size(), 2);
+}
+
+ROSTERA_TEST_MAIN(TestRotation)
+#include "test_rotation.moc"
