@@ -51,6 +51,12 @@ public:
     bool deleteSchedule(QString filter);
 
     static QString getValidStr(QString s);
+
+private:
+    // Fills a table just created from its template file, if it has one.
+    void seedTable(const QString &table);
+    // Moves a file of version "1.00" to the four-column t_permanentschedule.
+    void upgradeSchema();
 };
 
 extern DatabaseFunc g_DB;
