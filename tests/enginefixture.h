@@ -5,6 +5,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QPointer>
 #include <QSettings>
 #include <QSqlQuery>
 #include <QTimer>
@@ -179,3 +182,39 @@ inline void whenDialogOpens(const std::function<void(T *)> &action)
     });
     timer->start();
 }
+
+// Answers the message boxes that come up, in turn, with the given buttons (Cancel once the list
+// is used up) and keeps their texts and default buttons.
+class BoxSequence
+{
+public:
+    explicit BoxSequence(const QList<QMessageBox::StandardButton> &answers)
+        : m_answers(answers)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { poll(); });
+        m_timer.start(20);
+    }
+    QStringList texts;
+    QList<QMessageBox::StandardButton> defaults;
+
+private:
+    void poll()
+    {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            auto *box = qobject_cast<QMessageBox *>(widget);
+            if (!box || !box->isVisible() || m_seen.contains(box))
+                continue;
+            m_seen.append(box);
+            texts << box->text();
+            defaults << (box->defaultButton() ? box->standardButton(box->defaultButton()) : QMessageBox::NoButton);
+            const QMessageBox::StandardButton answer = m_answers.value(texts.size() - 1, QMessageBox::Cancel);
+            if (QAbstractButton *button = box->button(answer))
+                QMetaObject::invokeMethod(button, "click", Qt::QueuedConnection);
+            else
+                QMetaObject::invokeMethod(box, "reject", Qt::QueuedConnection);
+        }
+    }
+    QList<QMessageBox::StandardButton> m_answers;
+    QList<QPointer<QMessageBox>> m_seen;
+    QTimer m_timer;
+};
