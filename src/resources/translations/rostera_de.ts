@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Dienstplan löschen</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Startdatum:</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Enddatum:</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>Das Enddatum darf nicht vor dem Startdatum liegen.</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Dienstplan eines bestimmten Zeitraums kopieren</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>Kopieren ab:</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>Anzahl Tage:</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>Kopieren nach:</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>Quell- und Zielzeitraum überschneiden sich.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Montag</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienstag</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittwoch</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnerstag</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Freitag</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Samstag</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonntag</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank konnte nicht geöffnet werden!</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank wurde erfolgreich aktualisiert!</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank konnte nicht aktualisiert werden!</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dienstplan konnte beim Korrigieren nicht gespeichert werden!</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppe:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Mitarbeiter:</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>Vorheriges Jahr</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>J</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>Vorheriger Monat</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>Vorherige Woche</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>Nächste Woche</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>Nächster Monat</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>Nächstes Jahr</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>Datenbank öffnen</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>Datenbank speichern</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Berichte</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Nach Mitarbeitern anzeigen</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Nach Dienstplan anzeigen</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Eine Gruppe anzeigen</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Einen Mitarbeiter anzeigen</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>Regelbesetzung</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Feiertage</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;Systemsprache&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>Keine Mitarbeiter benötigt, der Tag ist ein Feiertag</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>Für diese Schicht werden an diesem Tag keine Mitarbeiter benötigt</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>Für diese Schicht sind an diesem Tag bereits genügend Mitarbeiter eingeteilt</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>An diesem Tag bereits eingeteilt</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>Der Dienstplan konnte nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>Der Dienstplan konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Keine&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>Datum:[%1]Gruppe:[%2]Schicht:[%3], Mitarbeiter [%4] existiert nicht und darf nicht eingeteilt werden</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>Datum:[%1]Gruppe:[%2]Schicht:[%3], Mitarbeiter [%4] ist im Urlaub und kann nicht eingeteilt werden</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>Datum:[%1]Gruppe:[%2]Schicht:[%3], Mitarbeiter [%4] kann nicht in mehr als eine Schicht eingeteilt werden</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Datum:[%1]Gruppe:[%2]Schicht:[%3], der Tag ist ein Feiertag. Es werden keine Mitarbeiter benötigt; teilen Sie für diesen Tag niemanden ein</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Datum:[%1]Gruppe:[%2]Schicht:[%3]. Es werden keine Mitarbeiter benötigt; teilen Sie für diesen Tag niemanden ein</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>Datum:[%1]Gruppe:[%2]Schicht:[%3], benötigte Mitarbeiter: %4, an diesem Tag eingeteilt: %5, </translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>weniger als benötigt</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>mehr als benötigt</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>Möchten Sie den vorhandenen Dienstplan wirklich ersetzen?</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>Der Quelldienstplan ist leer. Trotzdem fortfahren?</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>Der Dienstplan der vorherigen Woche konnte nicht kopiert werden!</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>Der Dienstplan ab %1 konnte nicht kopiert werden!</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>Möchten Sie den vorhandenen Dienstplan
+vom %1 bis %2 wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>Der Dienstplan konnte nicht gelöscht werden!</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>Vorhandenen Dienstplan löschen?</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>Die Dienstplandaten konnten nicht gespeichert werden!</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>Datenbankdatei (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>Die Datenbank konnte nicht geöffnet werden!</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>Datenbank speichern unter</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>Die Datenbank konnte nicht gespeichert werden!</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>Die Sprachänderung wird nach einem Neustart des Programms wirksam.</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>Entwickelt von %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Di</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Fr</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>So</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Dienstplan für einen bestimmten Zeitraum automatisch erstellen</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Startdatum:</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>Anzahl Tage:</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Dienstplan prüfen</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrigieren</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>Der aktuelle Dienstplan ist fehlerfrei</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitarbeiter automatisch einteilen?</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>Dienstplan automatisch erstellen</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>Dienstplan aktualisieren</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Nach Mitarbeitern anzeigen</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Nach Dienstplan anzeigen</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Eine Gruppe anzeigen</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Einen Mitarbeiter anzeigen</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Berichte</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>Dienstplan automatisch erstellen</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Dienstplan für einen bestimmten Zeitraum automatisch erstellen</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>Dienstplan des vorherigen Zeitraums kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Dienstplan eines bestimmten Zeitraums kopieren</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Dienstplan löschen</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>Dienstplan für einen bestimmten Zeitraum löschen</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>Mitarbeiter- und Datumseinstellungen</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>Wochentag</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Anzahl Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>Bestimmte Tage</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>Startdatum</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>Enddatum</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Woche im Monat</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>Das Enddatum darf nicht vor dem Startdatum liegen.</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>Bitte wählen Sie eine Woche aus.</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>Bitte wählen Sie einen Wochentag aus.</translation>
     </message>
 </context>
 </TS>

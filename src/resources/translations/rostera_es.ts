@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Borrar horario</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Fecha de inicio:</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Fecha de fin:</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>La fecha de fin no puede ser anterior a la fecha de inicio.</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Copiar el horario de un período específico</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>Copiar desde:</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>Número de días:</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>Copiar a:</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>Los períodos de origen y destino se solapan.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunes</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Martes</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Miércoles</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Jueves</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Viernes</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Sábado</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Domingo</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se pudo abrir la base de datos!</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡La base de datos se actualizó correctamente!</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se pudo actualizar la base de datos!</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se pudo guardar el horario al corregirlo!</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupo:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Empleado:</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>Año anterior</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>Mes anterior</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>Semana anterior</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>Semana siguiente</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>Mes siguiente</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>Año siguiente</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunes</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Configuración</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>Abrir base de datos</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>Guardar base de datos</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Informes</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Ver por empleado</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Ver por horario</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Ver todo</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Ver un solo grupo</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Ver un solo empleado</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Empleados</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Turnos</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>Horario base</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Días festivos</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Sitio web</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;Idioma del sistema&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>No se necesitan empleados, ese día es festivo</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>Este turno no necesita empleados ese día</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>Este turno ya tiene suficientes empleados asignados ese día</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>Ya asignado ese día</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>No se pudo obtener el horario</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>No se pudo guardar el horario</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Ninguno&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>Fecha:[%1]Grupo:[%2]Turno:[%3], el empleado [%4] no existe y no debe asignarse</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>Fecha:[%1]Grupo:[%2]Turno:[%3], el empleado [%4] está de vacaciones y no se puede asignar</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>Fecha:[%1]Grupo:[%2]Turno:[%3], el empleado [%4] no puede asignarse a más de un turno</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Fecha:[%1]Grupo:[%2]Turno:[%3], ese día es festivo. No se necesitan empleados; no asigne a nadie ese día</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Fecha:[%1]Grupo:[%2]Turno:[%3]. No se necesitan empleados; no asigne a nadie ese día</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>Fecha:[%1]Grupo:[%2]Turno:[%3], empleados necesarios: %4, asignados ese día: %5, </translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>menos de los necesarios</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>más de los necesarios</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>¿Seguro que desea reemplazar el horario existente?</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>El horario de origen está vacío. ¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>¡No se pudo copiar el horario de la semana anterior!</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>¡No se pudo copiar el horario desde el %1!</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>¿Seguro que desea borrar el horario existente
+del %1 al %2?</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>¡No se pudo borrar el horario!</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>¿Eliminar el horario existente?</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>¡No se pudo guardar la información del horario!</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>Archivo de base de datos (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>¡No se pudo abrir la base de datos!</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>Guardar base de datos como</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>¡No se pudo guardar la base de datos!</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>El cambio de idioma se aplicará después de reiniciar el programa.</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>Desarrollado por %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Lun</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Mar</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mié</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Jue</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Vie</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sáb</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Dom</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Generar automáticamente el horario de un período específico</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Fecha de inicio:</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>Número de días:</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar el horario actual</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobar</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Corregir</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>El horario actual es correcto</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea asignar empleados automáticamente?</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>Generar horario automáticamente</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>Actualizar horario</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Ver por empleado</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Ver por horario</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Ver todo</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Ver un solo grupo</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Ver un solo empleado</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Informes</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>Generar horario automáticamente</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Generar automáticamente el horario de un período específico</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>Copiar el horario del período anterior</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Copiar el horario de un período específico</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Borrar horario</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>Borrar el horario de un período específico</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>Configuración de empleados y fechas</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>Día de la semana</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Número de empleados</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunes</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martes</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Miércoles</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jueves</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Viernes</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sábado</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domingo</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>Fechas específicas</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>Fecha de inicio</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>Fecha de fin</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semana del mes</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>La fecha de fin no puede ser anterior a la fecha de inicio.</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>Seleccione una semana.</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>Seleccione un día de la semana.</translation>
     </message>
 </context>
 </TS>

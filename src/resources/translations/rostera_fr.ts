@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Effacer le planning</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Date de début&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Date de fin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>La date de fin ne peut pas être antérieure à la date de début.</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Copier le planning d&apos;une période donnée</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>Copier à partir du&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>Nombre de jours&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>Copier vers le&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>Les périodes source et cible se chevauchent.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Lundi</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Mardi</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercredi</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeudi</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Vendredi</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Samedi</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimanche</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir la base de données&#xa0;!</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de données a été mise à jour&#xa0;!</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la mise à jour de la base de données&#xa0;!</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;enregistrer le planning lors de la correction&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Groupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Employé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>Année précédente</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>Mois précédent</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>Semaine précédente</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>Semaine suivante</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>Mois suivant</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>Année suivante</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lundi</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Paramètres</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>Ouvrir une base de données</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>Enregistrer la base de données</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Rapports</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Afficher par employé</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Afficher par planning</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Afficher un seul groupe</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Afficher un seul employé</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Employés</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Postes</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>Planning type</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Jours fériés</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;Langue du système&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>Aucun employé requis, ce jour est férié</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>Aucun employé n&apos;est requis pour ce poste ce jour-là</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>Ce poste compte déjà suffisamment d&apos;employés affectés ce jour-là</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>Déjà affecté ce jour-là</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>Impossible de charger le planning</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>Impossible d&apos;enregistrer le planning</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Aucun&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>Date&#xa0;:[%1]Groupe&#xa0;:[%2]Poste&#xa0;:[%3], l&apos;employé [%4] n&apos;existe pas et ne doit pas être affecté</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>Date&#xa0;:[%1]Groupe&#xa0;:[%2]Poste&#xa0;:[%3], l&apos;employé [%4] est en congé et ne peut pas être affecté</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>Date&#xa0;:[%1]Groupe&#xa0;:[%2]Poste&#xa0;:[%3], l&apos;employé [%4] ne peut pas être affecté à plus d&apos;un poste</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Date&#xa0;:[%1]Groupe&#xa0;:[%2]Poste&#xa0;:[%3], ce jour est férié. Aucun employé n&apos;est requis&#xa0;; n&apos;affectez personne ce jour-là</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Date&#xa0;:[%1]Groupe&#xa0;:[%2]Poste&#xa0;:[%3]. Aucun employé n&apos;est requis&#xa0;; n&apos;affectez personne ce jour-là</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>Date&#xa0;:[%1]Groupe&#xa0;:[%2]Poste&#xa0;:[%3], effectif requis&#xa0;: %4, effectif affecté ce jour-là&#xa0;: %5, </translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>inférieur au besoin</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>supérieur au besoin</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>Voulez-vous vraiment remplacer le planning existant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>Le planning source est vide. Continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>Impossible de copier le planning de la semaine précédente&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>Impossible de copier le planning à partir du %1&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>Voulez-vous vraiment effacer le planning existant
+du %1 au %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>Impossible d&apos;effacer le planning&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>Supprimer le planning existant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>Impossible d&apos;enregistrer les données du planning&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>Fichier de base de données (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>Impossible d&apos;ouvrir la base de données&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>Enregistrer la base de données sous</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>Impossible d&apos;enregistrer la base de données&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>Le changement de langue prendra effet au prochain démarrage du logiciel.</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>Développé par %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Lun.</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Mar.</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mer.</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Jeu.</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Ven.</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sam.</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Dim.</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Générer automatiquement le planning d&apos;une période donnée</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Date de début&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>Nombre de jours&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier le planning actuel</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>Le planning actuel est correct</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Affecter automatiquement des employés&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>Générer automatiquement le planning</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>Actualiser le planning</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Afficher par employé</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Afficher par planning</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Afficher un seul groupe</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Afficher un seul employé</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Rapports</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guide de l&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>Générer automatiquement le planning</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Générer automatiquement le planning d&apos;une période donnée</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>Copier le planning de la période précédente</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Copier le planning d&apos;une période donnée</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Effacer le planning</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>Effacer le planning d&apos;une période donnée</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>Paramètres des employés et des dates</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>Jour de la semaine</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Nombre d&apos;employés</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lundi</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Mardi</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercredi</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jeudi</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Vendredi</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samedi</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Dimanche</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>Dates spécifiques</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>Date de début</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>Date de fin</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semaine du mois</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>La date de fin ne peut pas être antérieure à la date de début.</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>Veuillez sélectionner une semaine.</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>Veuillez sélectionner un jour de la semaine.</translation>
     </message>
 </context>
 </TS>

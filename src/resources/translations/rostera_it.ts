@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Cancella pianificazione</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Data di inizio:</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Data di fine:</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>La data di fine non può essere precedente alla data di inizio.</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Copia la pianificazione di un periodo specifico</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>Copia dal:</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>Numero di giorni:</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>Copia al:</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>I periodi di origine e di destinazione si sovrappongono.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunedì</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Martedì</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercoledì</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Giovedì</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Venerdì</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Sabato</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Domenica</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il database!</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>Database aggiornato correttamente!</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aggiornare il database!</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare la pianificazione durante la correzione!</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppo:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Dipendente:</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>Anno precedente</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>Mese precedente</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>Settimana precedente</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>Settimana successiva</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>Mese successivo</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>Anno successivo</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunedì</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Impostazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Lingua</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Guida</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>Apri database</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>Salva database</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Visualizza per dipendente</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Visualizza per pianificazione</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Visualizza tutto</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Visualizza un solo gruppo</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Visualizza un solo dipendente</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppi</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Dipendenti</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Turni</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>Pianificazione base</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Festività</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guida utente</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Sito web</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;Lingua di sistema&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>Nessun dipendente necessario, il giorno è festivo</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>Per questo turno non servono dipendenti in questo giorno</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>A questo turno sono già assegnati abbastanza dipendenti in questo giorno</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>Già assegnato in questo giorno</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>Impossibile caricare la pianificazione</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>Impossibile salvare la pianificazione</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Nessuno&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>Data:[%1]Gruppo:[%2]Turno:[%3], il dipendente [%4] non esiste e non deve essere assegnato</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>Data:[%1]Gruppo:[%2]Turno:[%3], il dipendente [%4] è in ferie e non può essere assegnato</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>Data:[%1]Gruppo:[%2]Turno:[%3], il dipendente [%4] non può essere assegnato a più di un turno</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Data:[%1]Gruppo:[%2]Turno:[%3], il giorno è festivo. Non servono dipendenti: non assegnare nessuno in questo giorno</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Data:[%1]Gruppo:[%2]Turno:[%3]. Non servono dipendenti: non assegnare nessuno in questo giorno</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>Data:[%1]Gruppo:[%2]Turno:[%3], dipendenti necessari: %4, assegnati in questo giorno: %5, </translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>meno del necessario</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>più del necessario</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>Sostituire davvero la pianificazione esistente?</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>La pianificazione di origine è vuota. Continuare?</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>Impossibile copiare la pianificazione della settimana precedente!</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>Impossibile copiare la pianificazione dal %1!</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>Cancellare davvero la pianificazione esistente
+dal %1 al %2?</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>Impossibile cancellare la pianificazione!</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>Eliminare la pianificazione esistente?</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>Impossibile salvare i dati della pianificazione!</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>File di database (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>Impossibile aprire il database!</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>Salva database con nome</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>Impossibile salvare il database!</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>La modifica della lingua avrà effetto al riavvio del programma.</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>Sviluppato da %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versione</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Lun</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Mar</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mer</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Gio</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Ven</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sab</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Dom</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Genera automaticamente la pianificazione di un periodo specifico</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Data di inizio:</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>Numero di giorni:</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica la pianificazione corrente</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Correggi</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>La pianificazione corrente è corretta</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Assegnare automaticamente i dipendenti?</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>Genera automaticamente la pianificazione</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>Aggiorna la pianificazione</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Visualizza per dipendente</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Visualizza per pianificazione</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Visualizza tutto</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Visualizza un solo gruppo</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Visualizza un solo dipendente</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Guida utente</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>Genera automaticamente la pianificazione</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Genera automaticamente la pianificazione di un periodo specifico</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>Copia la pianificazione del periodo precedente</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Copia la pianificazione di un periodo specifico</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Cancella pianificazione</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>Cancella la pianificazione di un periodo specifico</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>Impostazioni di dipendenti e date</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>Giorno della settimana</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Numero di dipendenti</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunedì</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martedì</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercoledì</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Giovedì</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Venerdì</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sabato</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domenica</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>Date specifiche</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>Data di inizio</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>Data di fine</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Settimana del mese</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>La data di fine non può essere precedente alla data di inizio.</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>Selezionare una settimana.</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>Selezionare un giorno della settimana.</translation>
     </message>
 </context>
 </TS>

@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>勤務表をクリア</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>開始日：</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>終了日：</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>終了日を開始日より前にすることはできません。</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>指定期間の勤務表をコピー</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>コピー元：</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>コピー日数：</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>コピー先：</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>コピー元とコピー先の期間が重複しています。</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>月曜日</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>火曜日</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>水曜日</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>木曜日</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>金曜日</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>土曜日</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>日曜日</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>データベースを開けませんでした。</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>データベースを更新しました。</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>データベースを更新できませんでした。</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>修正中に勤務表を保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>グループ：</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>従業員：</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>前の年</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>前の月</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>前の週</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>次の週</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>次の月</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>次の年</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>データベースを開く</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>データベースを保存</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>従業員別に表示</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>勤務表別に表示</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>グループを指定して表示</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>従業員を指定して表示</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>従業員</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>シフト</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>基本勤務表</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>休日</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>ユーザーガイド</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>アップデート</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>ウェブサイト</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;システムの言語&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>この日は休日のため、従業員は不要です</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>この日のこのシフトには従業員は不要です</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>この日のこのシフトには、必要な人数の従業員が既に割り当てられています</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>この日は既に割り当て済みです</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>勤務表を取得できませんでした</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>勤務表を保存できませんでした</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;なし&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>日付：[%1]グループ：[%2]シフト：[%3]、従業員 [%4] は存在しないため、割り当てないでください</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>日付：[%1]グループ：[%2]シフト：[%3]、従業員 [%4] は休暇中のため、割り当てできません</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>日付：[%1]グループ：[%2]シフト：[%3]、従業員 [%4] を複数のシフトに割り当てることはできません</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>日付：[%1]グループ：[%2]シフト：[%3]、この日は休日です。従業員は不要のため、この日には割り当てないでください</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>日付：[%1]グループ：[%2]シフト：[%3]。従業員は不要のため、この日には割り当てないでください</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>日付：[%1]グループ：[%2]シフト：[%3]、必要人数 %4 人に対し、この日の割り当ては %5 人で、</translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>不足しています</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>超過しています</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>既存の勤務表を置き換えてもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>コピー元の勤務表は空です。続行しますか？</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>前の週の勤務表をコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>%1 からの勤務表をコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>既存の勤務表をクリアしてもよろしいですか？
+（%1～%2）</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>勤務表をクリアできませんでした。</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>既存の勤務表を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>勤務表の情報を保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>データベース ファイル (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>データベースを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>名前を付けてデータベースを保存</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>データベースを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>言語の変更は、ソフトウェアの再起動後に有効になります。</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>開発元：%1、&lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>火</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>水</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>木</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>金</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>土</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>日</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>指定期間の勤務表を自動作成</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>開始日：</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>日数：</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の勤務表をチェック</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>チェック</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>修正</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の勤務表に問題はありません</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>従業員を自動で割り当てますか？</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>勤務表を自動作成</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>勤務表を最新の情報に更新</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>従業員別に表示</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>勤務表別に表示</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>グループを指定して表示</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>従業員を指定して表示</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>ユーザーガイド</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>勤務表を自動作成</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>指定期間の勤務表を自動作成</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>前の期間の勤務表をコピー</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>指定期間の勤務表をコピー</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>勤務表をクリア</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>指定期間の勤務表をクリア</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>従業員数と日付の設定</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>曜日</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>従業員数</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>火曜日</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>水曜日</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>木曜日</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>金曜日</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>土曜日</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>日曜日</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>日付指定</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>開始日</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>終了日</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>月内の週</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>終了日を開始日より前にすることはできません。</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>週を選択してください。</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>曜日を選択してください。</translation>
     </message>
 </context>
 </TS>

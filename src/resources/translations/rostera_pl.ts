@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Wyczyść grafik</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Data początkowa:</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Data końcowa:</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>Data końcowa nie może być wcześniejsza niż data początkowa.</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Kopiuj grafik z wybranego okresu</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>Kopiuj od:</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>Liczba dni:</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>Kopiuj do:</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>Okres źródłowy i docelowy nakładają się.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Poniedziałek</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Wtorek</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Środa</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Czwartek</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Piątek</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobota</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Niedziela</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się otworzyć bazy danych!</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>Baza danych została zaktualizowana!</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się zaktualizować bazy danych!</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się zapisać grafiku podczas naprawy!</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupa:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Pracownik:</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>Poprzedni rok</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>Poprzedni miesiąc</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>Poprzedni tydzień</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>Następny tydzień</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>Następny miesiąc</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>Następny rok</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Poniedziałek</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Plik</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Widok</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Ustawienia</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Język</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Pomo&amp;c</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>Otwórz bazę danych</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>Zapisz bazę danych</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Zakończ</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Raporty</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Pokaż według pracowników</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Pokaż według grafiku</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Pokaż wszystko</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Pokaż jedną grupę</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Pokaż jednego pracownika</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupy</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Pracownicy</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Zmiany</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>Grafik stały</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Święta</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Podręcznik użytkownika</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Strona internetowa</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programie</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;Język systemu&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>Pracownicy nie są potrzebni, ten dzień jest świętem</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>Ta zmiana nie wymaga w tym dniu pracowników</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>Do tej zmiany przydzielono już w tym dniu wystarczającą liczbę pracowników</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>Pracownik ma już przydział w tym dniu</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>Nie udało się pobrać grafiku</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>Nie udało się zapisać grafiku</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Brak&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>Data:[%1]Grupa:[%2]Zmiana:[%3], pracownik [%4] nie istnieje i nie należy go przydzielać</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>Data:[%1]Grupa:[%2]Zmiana:[%3], pracownik [%4] jest na urlopie i nie może zostać przydzielony</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>Data:[%1]Grupa:[%2]Zmiana:[%3], pracownik [%4] nie może zostać przydzielony do więcej niż jednej zmiany</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Data:[%1]Grupa:[%2]Zmiana:[%3], ten dzień jest świętem. Pracownicy nie są potrzebni, nie należy nikogo przydzielać w tym dniu</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Data:[%1]Grupa:[%2]Zmiana:[%3]. Pracownicy nie są potrzebni, nie należy nikogo przydzielać w tym dniu</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>Data:[%1]Grupa:[%2]Zmiana:[%3], potrzebni pracownicy: %4, przydzieleni w tym dniu: %5, </translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>mniej niż potrzeba</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>więcej niż potrzeba</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>Czy na pewno zastąpić istniejący grafik?</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>Grafik źródłowy jest pusty. Kontynuować?</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>Nie udało się skopiować grafiku z poprzedniego tygodnia!</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>Nie udało się skopiować grafiku od %1!</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>Czy na pewno wyczyścić istniejący grafik
+od %1 do %2?</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>Nie udało się wyczyścić grafiku!</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>Usunąć istniejący grafik?</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>Nie udało się zapisać danych grafiku!</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>Plik bazy danych (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>Nie udało się otworzyć bazy danych!</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>Zapisz bazę danych jako</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>Nie udało się zapisać bazy danych!</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>Zmiana języka zostanie zastosowana po ponownym uruchomieniu programu.</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>Producent: %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Wersja</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Pn</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Wt</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Śr</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Cz</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Pt</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sb</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Nd</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Automatycznie utwórz grafik dla wybranego okresu</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Data początkowa:</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>Liczba dni:</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź bieżący grafik</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdź</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Napraw</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>Bieżący grafik jest poprawny</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Czy automatycznie przydzielić pracowników?</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>Automatycznie utwórz grafik</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>Odśwież grafik</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Pokaż według pracowników</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Pokaż według grafiku</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Pokaż wszystko</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Pokaż jedną grupę</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Pokaż jednego pracownika</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Raporty</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Podręcznik użytkownika</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>Automatycznie utwórz grafik</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Automatycznie utwórz grafik dla wybranego okresu</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>Kopiuj grafik z poprzedniego okresu</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Kopiuj grafik z wybranego okresu</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Wyczyść grafik</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>Wyczyść grafik dla wybranego okresu</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>Ustawienia pracowników i dat</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>Dzień tygodnia</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Liczba pracowników</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Poniedziałek</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Wtorek</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Środa</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Czwartek</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Piątek</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sobota</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Niedziela</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>Wybrane daty</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>Data początkowa</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>Data końcowa</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Tydzień miesiąca</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>Data końcowa nie może być wcześniejsza niż data początkowa.</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>Wybierz tydzień.</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>Wybierz dzień tygodnia.</translation>
     </message>
 </context>
 </TS>

@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Очистить график</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Дата начала:</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Дата окончания:</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>Дата окончания не может быть раньше даты начала.</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Копировать график за указанный период</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>Копировать с:</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>Количество дней:</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>Копировать на:</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>Исходный и целевой периоды пересекаются.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>Понедельник</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Вторник</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>Среда</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>Четверг</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>Пятница</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>Суббота</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>Воскресенье</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть базу данных!</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>База данных успешно обновлена!</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось обновить базу данных!</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сохранить график при исправлении!</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Группа:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Сотрудник:</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>Предыдущий год</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Г</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>Предыдущий месяц</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>М</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>Предыдущая неделя</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>Н</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>Следующая неделя</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>Следующий месяц</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>Следующий год</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Понедельник</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>&amp;Настройки</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>Открыть базу данных</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>Сохранить базу данных</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Отчеты</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Показать по сотрудникам</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Показать по графику</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Показать все</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Показать одну группу</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Показать одного сотрудника</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группы</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Сотрудники</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Смены</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>Постоянный график</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Праздники</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Руководство пользователя</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновление</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Веб-сайт</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;Язык системы&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>Сотрудники не требуются, этот день приходится на праздники</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>В этот день для этой смены сотрудники не требуются</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>На эту смену в этот день уже назначено достаточно сотрудников</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>Сотрудник уже назначен на этот день</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>Не удалось получить график</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>Не удалось сохранить график</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Нет&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>Дата:[%1]Группа:[%2]Смена:[%3], сотрудник [%4] не существует, его нельзя назначать</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>Дата:[%1]Группа:[%2]Смена:[%3], сотрудник [%4] в отпуске, его нельзя назначить</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>Дата:[%1]Группа:[%2]Смена:[%3], сотрудника [%4] нельзя назначить более чем на одну смену</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Дата:[%1]Группа:[%2]Смена:[%3], этот день приходится на праздники. Сотрудники не требуются, не назначайте никого на этот день</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>Дата:[%1]Группа:[%2]Смена:[%3]. Сотрудники не требуются, не назначайте никого на этот день</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>Дата:[%1]Группа:[%2]Смена:[%3], требуется сотрудников: %4, назначено на этот день: %5, </translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>меньше, чем нужно</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>больше, чем нужно</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>Вы действительно хотите заменить существующий график?</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>Исходный график пуст. Продолжить?</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>Не удалось скопировать график предыдущей недели!</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>Не удалось скопировать график с %1!</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>Вы действительно хотите очистить существующий график
+с %1 по %2?</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>Не удалось очистить график!</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>Удалить существующий график?</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>Не удалось сохранить данные графика!</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>Файл базы данных (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>Не удалось открыть базу данных!</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>Сохранить базу данных как</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>Не удалось сохранить базу данных!</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>Изменение языка вступит в силу после перезапуска программы.</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>Разработчик: %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Версия</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Пн</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Вт</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Ср</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Чт</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Пт</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Сб</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>Вс</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Автоматически создать график на указанный период</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Дата начала:</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>Количество дней:</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить текущий график</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверить</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Исправить</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>Текущий график составлен без ошибок</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Назначить сотрудников автоматически?</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>Автоматически создать график</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>Обновить график</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>Показать по сотрудникам</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>Показать по графику</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>Показать все</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>Показать одну группу</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>Показать одного сотрудника</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>Отчеты</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>Руководство пользователя</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>Автоматически создать график</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>Автоматически создать график на указанный период</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>Копировать график за предыдущий период</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>Копировать график за указанный период</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>Очистить график</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>Очистить график за указанный период</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>Настройка сотрудников и дат</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>День недели</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Количество сотрудников</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Понедельник</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Вторник</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Среда</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Четверг</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Пятница</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Суббота</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Воскресенье</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>Указанные даты</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>Дата начала</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>Дата окончания</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Неделя месяца</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>Дата окончания не может быть раньше даты начала.</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>Выберите неделю.</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>Выберите день недели.</translation>
     </message>
 </context>
 </TS>

@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>清除排班表</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>开始日期：</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>结束日期：</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>结束日期不能早于开始日期。</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>复制指定周期的排班表</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>复制自：</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>复制天数：</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>复制到：</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>复制源与目标的日期范围有重叠。</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期一</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期二</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期三</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期四</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期五</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期六</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期日</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>错误</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>打开数据库失败！</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>数据库更新成功！</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>数据库更新失败！</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>修复时保存排班表失败！</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>组别：</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>员工：</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>上一年</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>上个月</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>上一周</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>周</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>下一周</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>下个月</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>下一年</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>查看(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>设置(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>打开数据库</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>保存数据库</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>报表</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>按员工查看</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>按排班表查看</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>查看全部</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>查看单个组别</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>查看单个员工</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组别</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>员工</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>班次</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>固定排班</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>节假日</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>网站</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;系统语言&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>当天为节假日，不需要员工</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>该班次当天不需要员工</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>该班次当天已安排足够的员工</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>当天已有安排</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>获取排班表失败</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>保存排班表失败</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;无&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>日期：[%1]组别：[%2]班次：[%3]，员工[%4]不存在，请勿安排该员工</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>日期：[%1]组别：[%2]班次：[%3]，员工[%4]正在休假，不能安排</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>日期：[%1]组别：[%2]班次：[%3]，员工[%4]不能被安排到多个班次</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>日期：[%1]组别：[%2]班次：[%3]，当天为节假日。不需要员工，请勿安排员工当天上班</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>日期：[%1]组别：[%2]班次：[%3]。不需要员工，请勿安排员工当天上班</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>日期：[%1]组别：[%2]班次：[%3]，需要%4名员工，当天已安排%5名员工，</translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>少于所需人数</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>多于所需人数</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>确定要替换现有的排班表吗？</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>源排班表为空，是否继续？</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>复制上周排班表失败！</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>从%1起复制排班表失败！</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>确定要清除现有的排班表吗？
+（%1 至 %2）</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>清除排班表失败！</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>是否删除现有的排班表？</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>保存排班信息失败！</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>数据库文件 (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>打开数据库失败！</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>数据库另存为</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>数据库另存为失败！</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>语言更改将在软件重新启动后生效。</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>开发者：%1，&lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>周一</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>周二</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>周三</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>周四</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>周五</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>周六</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>周日</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>自动生成指定日期范围的排班表</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>开始日期：</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>周期天数：</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>检查当前排班表</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>检查</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>修复</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>当前排班表正确无误</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>是否自动安排员工？</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>自动生成排班表</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>刷新排班表</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>按员工查看</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>按排班表查看</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>查看全部</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>查看单个组别</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>查看单个员工</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>报表</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>用户指南</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>自动生成排班表</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>自动生成指定日期范围的排班表</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>复制上一周期的排班表</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>复制指定周期的排班表</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>清除排班表</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>清除指定日期范围的排班表</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>员工与日期设置</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>星期</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>员工人数</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>指定日期</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>开始日期</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>结束日期</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>每月第几周</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>结束日期不能早于开始日期。</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>请选择第几周。</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>请选择星期几。</translation>
     </message>
 </context>
 </TS>

@@ -2,80 +2,641 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW">
 <context>
+    <name>ClearScheduleSettings</name>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>清除排班表</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>開始日期：</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>結束日期：</translation>
+    </message>
+    <message>
+        <source>To date can&apos;t before from date</source>
+        <translation>結束日期不能早於開始日期。</translation>
+    </message>
+</context>
+<context>
+    <name>CopyScheduleSettings</name>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>複製指定週期的排班表</translation>
+    </message>
+    <message>
+        <source>Copy from:</source>
+        <translation>複製自：</translation>
+    </message>
+    <message>
+        <source>Copy days:</source>
+        <translation>複製天數：</translation>
+    </message>
+    <message>
+        <source>Copy to:</source>
+        <translation>複製到：</translation>
+    </message>
+    <message>
+        <source>There has overlapping day between from and to dates</source>
+        <translation>複製來源與目標的日期範圍有重疊。</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期一</translation>
     </message>
     <message>
         <source>Tuesday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期二</translation>
     </message>
     <message>
         <source>Wednesday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期三</translation>
     </message>
     <message>
         <source>Thursday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期四</translation>
     </message>
     <message>
         <source>Friday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期五</translation>
     </message>
     <message>
         <source>Saturday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期六</translation>
     </message>
     <message>
         <source>Sunday</source>
-        <translation type="unfinished"></translation>
+        <translation>星期日</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>錯誤</translation>
     </message>
     <message>
         <source>Open Database Failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟資料庫失敗！</translation>
     </message>
     <message>
         <source>Update database success!</source>
-        <translation type="unfinished"></translation>
+        <translation>資料庫更新成功！</translation>
     </message>
     <message>
         <source>Update database failed!</source>
-        <translation type="unfinished"></translation>
+        <translation>資料庫更新失敗！</translation>
     </message>
 </context>
 <context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
-        <translation type="unfinished"></translation>
+        <translation>修復時儲存排班表失敗！</translation>
+    </message>
+    <message>
+        <source>Rostera</source>
+        <translation>Rostera</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>組別：</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>員工：</translation>
+    </message>
+    <message>
+        <source>The previous year</source>
+        <translation>上一年</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>The previous month</source>
+        <translation>上個月</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>The previous week</source>
+        <translation>上一週</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>The next week</source>
+        <translation>下一週</translation>
+    </message>
+    <message>
+        <source>The next month</source>
+        <translation>下個月</translation>
+    </message>
+    <message>
+        <source>The next year</source>
+        <translation>下一年</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>檔案(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>檢視(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>語言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>說明(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open Database</source>
+        <translation>開啟資料庫</translation>
+    </message>
+    <message>
+        <source>Save Database</source>
+        <translation>儲存資料庫</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>報表</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>依員工檢視</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>依排班表檢視</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>檢視全部</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>檢視單一組別</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>檢視單一員工</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>組別</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>員工</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>班別</translation>
+    </message>
+    <message>
+        <source>Permanent Schedule</source>
+        <translation>固定排班</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>假日</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>選項</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>使用者手冊</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>網站</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>&lt;System Language&gt;</source>
+        <translation>&lt;系統語言&gt;</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Polski</source>
+        <translation>Polski</translation>
+    </message>
+    <message>
+        <source>Pусский</source>
+        <translation>Pусский</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italiano</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文简体</translation>
+    </message>
+    <message>
+        <source>中文繁体</source>
+        <translation>中文繁体</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees, that day is during the holidays</source>
+        <translation>當天為假日，不需要員工</translation>
+    </message>
+    <message>
+        <source>Don&apos;t need any employees for this shift of that day</source>
+        <translation>該班別當天不需要員工</translation>
+    </message>
+    <message>
+        <source>Already assigned enough employees for this shift of that day</source>
+        <translation>該班別當天已安排足夠的員工</translation>
+    </message>
+    <message>
+        <source>Already assigned on that day</source>
+        <translation>當天已有安排</translation>
+    </message>
+    <message>
+        <source>Get schedule failed</source>
+        <translation>取得排班表失敗</translation>
+    </message>
+    <message>
+        <source>Save schedule failed</source>
+        <translation>儲存排班表失敗</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;無&gt;</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn&apos;t exist,don&apos;t assign the employee</source>
+        <translation>日期：[%1]組別：[%2]班別：[%3]，員工[%4]不存在，請勿安排該員工</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can&apos;t be assigned</source>
+        <translation>日期：[%1]組別：[%2]班別：[%3]，員工[%4]正在休假，無法安排</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Employee [%4] can&apos;t be assigned to more than one shift</source>
+        <translation>日期：[%1]組別：[%2]班別：[%3]，員工[%4]不能被安排到多個班別</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3], that day is during the holidays. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>日期：[%1]組別：[%2]班別：[%3]，當天為假日。不需要員工，請勿安排員工當天上班</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3]. Do not require employees,don&apos;t assign employees work for that day</source>
+        <translation>日期：[%1]組別：[%2]班別：[%3]。不需要員工，請勿安排員工當天上班</translation>
+    </message>
+    <message>
+        <source>Date:[%1]Group:[%2]Shift:[%3],Need %4 employees work, %5 employees were assigned work for that day,</source>
+        <translation>日期：[%1]組別：[%2]班別：[%3]，需要%4名員工，當天已安排%5名員工，</translation>
+    </message>
+    <message>
+        <source>less than need</source>
+        <translation>少於所需人數</translation>
+    </message>
+    <message>
+        <source>more than need</source>
+        <translation>多於所需人數</translation>
+    </message>
+    <message>
+        <source>Are you sure to replace existing schedule?</source>
+        <translation>確定要取代現有的排班表嗎？</translation>
+    </message>
+    <message>
+        <source>Source schedule is empty, continue?</source>
+        <translation>來源排班表是空的，是否繼續？</translation>
+    </message>
+    <message>
+        <source>Copy schedule of previous week failed!</source>
+        <translation>複製上週排班表失敗！</translation>
+    </message>
+    <message>
+        <source>Copy schedule from %1 failed!</source>
+        <translation>從%1起複製排班表失敗！</translation>
+    </message>
+    <message>
+        <source>Are you sure to clear existing schedule
+from %1 to %2?</source>
+        <translation>確定要清除現有的排班表嗎？
+（%1 至 %2）</translation>
+    </message>
+    <message>
+        <source>Clear schedule failed!</source>
+        <translation>清除排班表失敗！</translation>
+    </message>
+    <message>
+        <source>Delete existing schedule?</source>
+        <translation>是否刪除現有的排班表？</translation>
+    </message>
+    <message>
+        <source>Save schedule information failed!</source>
+        <translation>儲存排班資訊失敗！</translation>
+    </message>
+    <message>
+        <source>Rostera-%1</source>
+        <translation>Rostera-%1</translation>
+    </message>
+    <message>
+        <source>DB File(*.db)</source>
+        <translation>資料庫檔案 (*.db)</translation>
+    </message>
+    <message>
+        <source>Open database failed!</source>
+        <translation>開啟資料庫失敗！</translation>
+    </message>
+    <message>
+        <source>Save As Database</source>
+        <translation>資料庫另存新檔</translation>
+    </message>
+    <message>
+        <source>Save as database failed!</source>
+        <translation>資料庫另存新檔失敗！</translation>
+    </message>
+    <message>
+        <source>Language change will take effect after the restart of the software.</source>
+        <translation>語言變更將在軟體重新啟動後生效。</translation>
+    </message>
+    <message>
+        <source>Made by %1, &lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</source>
+        <translation>開發者：%1，&lt;a href=&quot;%2&quot;&gt;%2&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>週一</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>週二</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>週三</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>週四</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>週五</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>週六</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>週日</translation>
+    </message>
+</context>
+<context>
+    <name>RosteraSettings</name>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>自動產生指定日期範圍的排班表</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>開始日期：</translation>
+    </message>
+    <message>
+        <source>Cycle days:</source>
+        <translation>週期天數：</translation>
     </message>
 </context>
 <context>
     <name>ScheduleStatus</name>
     <message>
         <source>Check current schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查目前的排班表</translation>
     </message>
     <message>
         <source>Check</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>修復</translation>
     </message>
     <message>
         <source>Current schedule is correct</source>
-        <translation type="unfinished"></translation>
+        <translation>目前的排班表正確無誤</translation>
     </message>
     <message>
         <source>Need to allocate staff automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>是否自動安排員工？</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBar</name>
+    <message>
+        <source>Auto create schedule</source>
+        <translation>自動產生排班表</translation>
+    </message>
+    <message>
+        <source>Refresh schedule</source>
+        <translation>重新整理排班表</translation>
+    </message>
+    <message>
+        <source>View By Employee</source>
+        <translation>依員工檢視</translation>
+    </message>
+    <message>
+        <source>View By Schedule</source>
+        <translation>依排班表檢視</translation>
+    </message>
+    <message>
+        <source>View All</source>
+        <translation>檢視全部</translation>
+    </message>
+    <message>
+        <source>View One Group</source>
+        <translation>檢視單一組別</translation>
+    </message>
+    <message>
+        <source>View One Employee</source>
+        <translation>檢視單一員工</translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation>報表</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation>使用者手冊</translation>
+    </message>
+    <message>
+        <source>Auto Generate Schedule</source>
+        <translation>自動產生排班表</translation>
+    </message>
+    <message>
+        <source>Auto Generate Specified Date Schedule</source>
+        <translation>自動產生指定日期範圍的排班表</translation>
+    </message>
+    <message>
+        <source>Copy Previous Cycle Schedule</source>
+        <translation>複製上一週期的排班表</translation>
+    </message>
+    <message>
+        <source>Copy Specified Cycle Schedule</source>
+        <translation>複製指定週期的排班表</translation>
+    </message>
+    <message>
+        <source>Clear Schedule</source>
+        <translation>清除排班表</translation>
+    </message>
+    <message>
+        <source>Clear Specified Date Schedule</source>
+        <translation>清除指定日期範圍的排班表</translation>
+    </message>
+</context>
+<context>
+    <name>WorkDateAssign</name>
+    <message>
+        <source>Employees and date settings</source>
+        <translation>員工與日期設定</translation>
+    </message>
+    <message>
+        <source>Day of week</source>
+        <translation>星期</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>員工人數</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Specified date</source>
+        <translation>指定日期</translation>
+    </message>
+    <message>
+        <source>Start date</source>
+        <translation>開始日期</translation>
+    </message>
+    <message>
+        <source>End date</source>
+        <translation>結束日期</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>每月第幾週</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>End date can&apos;t set before start date.</source>
+        <translation>結束日期不能早於開始日期。</translation>
+    </message>
+    <message>
+        <source>Please select a week.</source>
+        <translation>請選擇第幾週。</translation>
+    </message>
+    <message>
+        <source>Please select a day of week.</source>
+        <translation>請選擇星期幾。</translation>
     </message>
 </context>
 </TS>
