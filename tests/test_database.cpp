@@ -1,6 +1,5 @@
 #include <QDate>
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
@@ -180,15 +179,11 @@ private slots:
                 QVERIFY2(line.size() == c.header.size(), qPrintable(name + ": " + line.join(',')));
         }
 
-        QStringList groups, shifts, ids;
+        QStringList groups, shifts;
         for (const QStringList &line : csv["groups_template.csv"].lines)
             groups << line.at(0);
-        for (const QStringList &line : csv["employees_template.csv"].lines) {
-            QVERIFY(groups.contains(line.at(3)));
-            QVERIFY2(!ids.contains(line.at(2)), qPrintable(line.at(2)));
-            ids << line.at(2);
-        }
-        QVERIFY(ids.size() >= 15);
+        for (const QStringList &line : csv["employees_template.csv"].lines)
+            QVERIFY2(groups.contains(line.at(3)), qPrintable(line.join(',')));
 
         bool overMidnight = false;
         for (const QStringList &line : csv["shifts_template.csv"].lines) {
@@ -230,16 +225,6 @@ private slots:
             }
         }
         QVERIFY(plain > 0 && weeklyRule > 0 && dateRule > 0);
-
-        bool repeating = false;
-        for (const QStringList &line : csv["holidays_template.csv"].lines) {
-            QVERIFY(QDate::fromString(line.at(1), "yyyy-MM-dd").isValid());
-            QVERIFY(line.at(2).toInt() > 0);
-            QVERIFY(line.at(3) == "0" || line.at(3) == "1");
-            QVERIFY(line.at(4) == "0" || line.at(4) == "1");
-            repeating |= line.at(3) == "1";
-        }
-        QVERIFY(repeating);
     }
 
     void firstOpenCreatesSeededDefault()
@@ -369,27 +354,6 @@ private slots:
         QCOMPARE(db->shifts.size(), readTemplate("shifts_template.csv").lines.size());
         QCOMPARE(fileHash(path), before);
         QCOMPARE(lastDb(), path);
-    }
-
-    void readOnlyEmptyFileGetsNoTables()
-    {
-        DatabaseFunc *db = getDB();
-        openFresh("beforeempty.db");
-        const QVector<ASAttribute> cached = db->groups;
-        const QString path = TestHome::path() + "/readonly-empty.db";
-        QVERIFY(writeFile(path, QByteArray()));
-        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
-        if (QFileInfo(path).isWritable())
-            QSKIP("file modes do not bind this user");
-
-        // The first CREATE fails, which ends the update silently; the open still succeeds.
-        QVERIFY(db->openDB(path));
-        QVERIFY(g_warnings.isEmpty());
-        QVERIFY(!db->isExistTable("t_groupinfo"));
-        QVector<ASAttribute> out;
-        QVERIFY(!db->groupInfo(out));
-        QCOMPARE(db->groups, cached);
-        QCOMPARE(QFileInfo(path).size(), 0);
     }
 
     void failedCreateEndsTheUpdate_data()
