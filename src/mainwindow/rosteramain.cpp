@@ -30,7 +30,6 @@ RosteraMain::RosteraMain(QWidget *parent)
 
     QSettings settings(getAppDataPath(0), QSettings::IniFormat);
     auto *languages = new QActionGroup(this);
-    languages->setExclusive(true);
     const QList<QAction *> languageActions = ui->menuLanguage->actions();
     for (QAction *action : languageActions) {
         languages->addAction(action);

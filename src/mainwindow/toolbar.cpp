@@ -10,7 +10,6 @@
 static QButtonGroup *makeGroup(QObject *parent, const QList<QAbstractButton *> &buttons)
 {
     auto *group = new QButtonGroup(parent);
-    group->setExclusive(true);
     for (int id = 0; id < buttons.size(); ++id)
         group->addButton(buttons.at(id), id);
     return group;
