@@ -65,7 +65,8 @@ RosteraMain::~RosteraMain()
     QSettings(getAppDataPath(0), QSettings::IniFormat)
         .setValue("columns", QString::fromLatin1(ui->tableWidget->horizontalHeader()->saveState().toBase64()));
     delete ui;
-    g_pMain = nullptr;
+    if (g_pMain == this)
+        g_pMain = nullptr;
 }
 
 void RosteraMain::readLockOption()
