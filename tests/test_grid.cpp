@@ -162,6 +162,9 @@ void TestGrid::dateSpan_data()
     QTest::newRow("picked day off, no week start") << -1 << 7 << "1,2,3,4,5" << saturday << "17 18 19 20 21 24 25" << -1;
     QTest::newRow("start moves to first work day") << 0 << 3 << "3,5" << kWednesday << "12 14 19" << 0;
     QTest::newRow("one day") << 0 << 1 << "1,2,3,4,5,6,7" << kWednesday << "10" << -1;
+    // Hand-edited values that name no day must not hang the window.
+    QTest::newRow("no day named") << 0 << 7 << "8" << kWednesday << "10 11 12 13 14 15 16" << 2;
+    QTest::newRow("empty work week") << 0 << 7 << "" << kWednesday << "10 11 12 13 14 15 16" << 2;
 }
 
 void TestGrid::dateSpan()

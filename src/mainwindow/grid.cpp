@@ -1,6 +1,7 @@
 #include "mainwindow/rosteramain.h"
 
 #include <QHeaderView>
+#include <algorithm>
 #include <QSettings>
 
 #include "core/apppaths.h"
@@ -25,9 +26,14 @@ void RosteraMain::calcFromToDay()
         const int start = showFromWeek + 1;
         first = first.addDays(start <= day ? start - day : start - day - 7);
     }
-    // Seven items mean every day is a work day; more are taken item by item.
-    const bool everyDay = workWeek.size() == 7;
-    if (workWeek.size() <= 6) {
+    // Seven items mean every day is a work day; more are taken item by item. A list that
+    // names no day at all can only come from a hand-edited file: it counts as every day,
+    // for otherwise the search for a work day would never end.
+    const bool namesADay = std::any_of(workWeek.begin(), workWeek.end(), [](const QString &item) {
+        return item.toInt() >= 1 && item.toInt() <= 7;
+    });
+    const bool everyDay = workWeek.size() == 7 || !namesADay;
+    if (!everyDay && workWeek.size() <= 6) {
         while (!workWeek.contains(QString::number(first.dayOfWeek())))
             first = first.addDays(1);
     }
