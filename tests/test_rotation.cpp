@@ -3,6 +3,7 @@
 #include "testhome.h"
 
 #include "core/schedulelookup.h"
+#include "engine/enginecommon.h"
 #include "enginefixture.h"
 #include "ui_rosteramain.h"
 
@@ -136,6 +137,8 @@ void TestRotation::vacations()
     QFETCH(bool, away);
     window->vacations = {vacation("9", "2026-03-02", 10), vacation(staffids, "2026-03-02", 3)};
     QCOMPARE(window->checkVacation(date, id), away);
+    // The index that the check uses answers the same.
+    QCOMPARE(VacationIndex(window->vacations).covers(date, id), away);
 }
 
 // Two employees, one a day over four dates: the share is 2. After the first pick the other one
@@ -233,6 +236,15 @@ void TestRotation::scheduleLookups()
                                        {"shiftname", "T"}})
                                    .values());
     QCOMPARE(getSchedule("2026-03-02", "", "S", list, nullptr).attr("staffs", QString("none")), QString("none"));
+
+    // The index that generation uses finds the same first record of a key.
+    ScheduleIndex index(list);
+    QCOMPARE(index.find("2026-03-02", "G", "T"), 1);
+    QCOMPARE(index.find("2026-03-02", "G", "U"), -1);
+    index.append(newSchedule("2026-03-02", "G", "U"));
+    QCOMPARE(index.find("2026-03-02", "G", "U"), 3);
+    QCOMPARE(list.size(), 4);
+    QCOMPARE(list.last().attr("shiftname", QString()), QString("U"));
     QCOMPARE(window->getDaySchedule(list, "G", "S", "2026-03-02").attr("staffs", QString()), QString("1"));
     QVERIFY(window->getDaySchedule(list, "H", "S", "2026-03-02").values().isEmpty());
 }

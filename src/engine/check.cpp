@@ -1,3 +1,4 @@
+#include <QHash>
 #include <QTableWidget>
 #include <QTimer>
 #include <QToolTip>
@@ -15,6 +16,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
     DatabaseFunc *db = getDB();
     db->holidayInfo(holidays, "valid=1");
     db->vacationInfo(vacations, "valid=1");
+    const VacationIndex away(vacations);
     const bool oneGroup = isOneGroupView(this);
     const QString group = viewGroup(this);
     const QString first = cycleDates.value(0).toString("yyyy-MM-dd");
@@ -22,8 +24,12 @@ QStringList RosteraMain::checkSchedule(bool repair)
 
     QStringList messages;
     const auto full = [&] { return !repair && messages.size() >= kMessageLimit; };
-    // Lives over all rows, so that one employee on two shifts of a date is found.
-    QVector<ASAttribute> staffList;
+    // The employees met, with the shift of each date. They live over all rows, so that one
+    // employee on two shifts of a date is found; kept by group, as they are looked up by group.
+    QHash<QString, QVector<ASAttribute>> staffLists;
+    QVector<bool> holidayAt;
+    for (const QDate &date : cycleDates)
+        holidayAt.append(checkHoliday(date));
     QVector<ASAttribute> records;
     QVector<ASAttribute> updates;
     QString current;
@@ -41,6 +47,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
         // A group that was never generated is not reported.
         if (records.isEmpty())
             continue;
+        QVector<ASAttribute> &staffList = staffLists[groupname];
         const QString shift = row.attr("shiftname", QString());
         const QString shownGroup = groupname.isEmpty() ? tr("<None>") : groupname;
         for (int p = 0; p < cycleDates.size(); ++p) {
@@ -48,7 +55,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
             const QString dateText = date.toString("yyyy-MM-dd");
             ASAttribute record = getDaySchedule(records, groupname, shift, dateText);
             QStringList staffs = record.attr("staffs", QString()).split(';', Qt::SkipEmptyParts);
-            const bool holiday = checkHoliday(date);
+            const bool holiday = holidayAt.at(p);
             const int need = holiday ? 0 : getStaffNum(row.attr("daystaffnum", QString()), date, date.dayOfWeek() - 1);
             bool removed = false;
             // Repair mode removes what check mode reports; it reports only what removal cannot mend.
@@ -66,7 +73,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
                 const QString key = QString::number(p);
                 if (s < 0)
                     fault(i, tr("Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn't exist,don't assign the employee"));
-                else if (checkVacation(date, id))
+                else if (away.covers(date, id))
                     fault(i, tr("Date:[%1]Group:[%2]Shift:[%3],Employee [%4] is during the vacations, can't be assigned"));
                 else if (staffList[s].attr(key, QString()).isEmpty())
                     staffList[s].setAttr(key, shift);

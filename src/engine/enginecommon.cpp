@@ -1,5 +1,6 @@
 #include "engine/enginecommon.h"
 
+#include "core/asattribute.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "ui_rosteramain.h"
@@ -28,4 +29,41 @@ void countOne(ASAttribute &record, const QString &key)
 QString spanFilter(const QDate &first, const QDate &last)
 {
     return QString("date>='%1' and date<='%2'").arg(first.toString("yyyy-MM-dd"), last.toString("yyyy-MM-dd"));
+}
+
+QDate dateOf(const QString &text)
+{
+    static QHash<QString, QDate> parsed;
+    auto it = parsed.constFind(text);
+    if (it == parsed.constEnd())
+        it = parsed.insert(text, QDate::fromString(text, "yyyy-MM-dd"));
+    return *it;
+}
+
+bool inSpan(const QDate &date, const QDate &first, int days)
+{
+    return first <= date && date <= first.addDays(days - 1);
+}
+
+bool vacationCovers(const ASAttribute &vacation, const QDate &date, const QString &staffId)
+{
+    return inSpan(date, dateOf(vacation.attr("date", QString())), vacation.attr("days", 1))
+           && vacation.attr("staffids", QString()).split(';').contains(staffId);
+}
+
+VacationIndex::VacationIndex(const QVector<ASAttribute> &vacations)
+{
+    for (const ASAttribute &vacation : vacations) {
+        for (const QString &id : vacation.attr("staffids", QString()).split(';'))
+            m_byId[id].append(&vacation);
+    }
+}
+
+bool VacationIndex::covers(const QDate &date, const QString &staffId) const
+{
+    for (const ASAttribute *vacation : m_byId.value(staffId)) {
+        if (vacationCovers(*vacation, date, staffId))
+            return true;
+    }
+    return false;
 }

@@ -89,12 +89,12 @@ bool RosteraMain::auto_schedule(const QVector<QDate> &dates, bool deleteExisting
     // Kept records that no row touched survive only in the lock mode; otherwise they are lost
     // even when the user chose to keep the schedule.
     if (employeeLockSchedule) {
+        ScheduleIndex outAt(out);
         for (const ASAttribute &kept : keep) {
-            int pos = -1;
-            getSchedule(kept.attr("date", QString()), kept.attr("groupname", QString()),
-                        kept.attr("shiftname", QString()), out, &pos);
-            if (pos < 0)
-                out.append(kept);
+            if (outAt.find(kept.attr("date", QString()), kept.attr("groupname", QString()),
+                           kept.attr("shiftname", QString()))
+                < 0)
+                outAt.append(kept);
         }
     }
     if (!db->saveSchedule(out)) {
@@ -127,25 +127,28 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
     for (int i = n - 1; i >= 1; --i)
         std::swap(shuffledStaff[i], shuffledStaff[randomNumber() % i]);
 
-    QVector<bool> holidayAt;
-    for (const QDate &date : cycleDates)
-        holidayAt.append(checkHoliday(date));
-    const auto needOf = [this](const ASAttribute &row, const QDate &date) {
-        return getStaffNum(row.attr("daystaffnum", QString()), date, date.dayOfWeek() - 1);
-    };
-
     // Demand over the cycle, holidays left out; kept assignments count against the shares.
+    // The holidays and the need of each row on each date are worked out once for all passes.
+    QVector<bool> holidayAt;
+    QVector<QVector<int>> needs;
+    const ScheduleIndex keptAt(keep);
+    ScheduleIndex outAt(out);
     assignStats.clear();
     for (int p = 0; p < cycleDates.size(); ++p) {
         const QDate date = cycleDates.at(p);
         const QString dateText = date.toString("yyyy-MM-dd");
+        holidayAt.append(checkHoliday(date));
+        needs.append(QVector<int>());
         for (const ASAttribute &row : rows) {
             const QString shift = row.attr("shiftname", QString());
-            const int need = needOf(row, date);
+            const int need = getStaffNum(row.attr("daystaffnum", QString()), date, date.dayOfWeek() - 1);
+            needs.last().append(need);
             if (!holidayAt.at(p) && need > 0)
                 assignStats.setAttr(shift, assignStats.attr(shift, 0) + need);
-            const ASAttribute kept = getSchedule(dateText, groupname, shift, keep, nullptr);
-            for (const QString &id : kept.attr("staffs", QString()).split(';', Qt::SkipEmptyParts)) {
+            const int kept = keptAt.find(dateText, groupname, shift);
+            if (kept < 0)
+                continue;
+            for (const QString &id : keep.at(kept).attr("staffs", QString()).split(';', Qt::SkipEmptyParts)) {
                 const int s = getStaff(ring, id);
                 if (s < 0)
                     continue;
@@ -185,7 +188,8 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
                 if (locked.isEmpty())
                     continue;
             }
-            for (const ASAttribute &row : rows) {
+            for (int r = 0; r < rows.size(); ++r) {
+                const ASAttribute &row = rows.at(r);
                 const QString shift = row.attr("shiftname", QString());
                 QString designated;
                 if (pass == 1) {
@@ -193,11 +197,13 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
                     if (designated.isEmpty() || getStaff(ring, designated) < 0)
                         continue;
                 }
-                int outPos = -1;
-                ASAttribute record = getSchedule(dateText, groupname, shift, out, &outPos);
-                if (outPos < 0)
-                    record = getSchedule(dateText, groupname, shift, keep, nullptr);
-                const int need = needOf(row, date);
+                // The output's record, else the kept one, else a new one.
+                const int outPos = outAt.find(dateText, groupname, shift);
+                const int kept = keptAt.find(dateText, groupname, shift);
+                ASAttribute record = outPos >= 0 ? out.at(outPos)
+                                     : kept >= 0 ? keep.at(kept)
+                                                 : newSchedule(dateText, groupname, shift);
+                const int need = needs.at(p).at(r);
                 if (need == 0)
                     continue;
                 QStringList staffs;
@@ -217,7 +223,7 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
                 if (outPos >= 0)
                     out[outPos] = record;
                 else
-                    out.append(record);
+                    outAt.append(record);
             }
         }
     }

@@ -5,17 +5,10 @@
 #include "mainwindow/rosteramain.h"
 #include "persistence/databasefunc.h"
 
-// Whether date lies in the span of days days from first on. An invalid first never matches,
-// and neither does a span of 0 days.
-static bool inSpan(const QDate &date, const QDate &first, int days)
-{
-    return first <= date && date <= first.addDays(days - 1);
-}
-
 bool RosteraMain::checkHoliday(const QDate &date)
 {
     for (const ASAttribute &holiday : holidays) {
-        const QDate first = QDate::fromString(holiday.attr("date", QString()), "yyyy-MM-dd");
+        const QDate first = dateOf(holiday.attr("date", QString()));
         const int days = holiday.attr("days", 1);
         if (holiday.attr("repeat", 1) == 0) {
             if (inSpan(date, first, days))
@@ -38,15 +31,9 @@ bool RosteraMain::checkHoliday(const QDate &date)
 
 bool RosteraMain::checkVacation(const QDate &date, const QString &staffId)
 {
+    // The substring test is only a quick filter: "1" must not match "11;12".
     for (const ASAttribute &vacation : vacations) {
-        const QString ids = vacation.attr("staffids", QString());
-        if (!ids.contains(staffId))
-            continue;
-        const QDate first = QDate::fromString(vacation.attr("date", QString()), "yyyy-MM-dd");
-        if (!inSpan(date, first, vacation.attr("days", 1)))
-            continue;
-        // The substring test above is only a quick filter: "1" must not match "11;12".
-        if (ids.split(';').contains(staffId))
+        if (vacation.attr("staffids", QString()).contains(staffId) && vacationCovers(vacation, date, staffId))
             return true;
     }
     return false;
@@ -70,9 +57,10 @@ QString RosteraMain::getNextValidStaff(const QDate &date, QVector<ASAttribute *>
         const QString id = candidate->attr("id", QString());
         const bool firstLap = tries < n;
         bool over = false;
-        if (!checkVacation(date, id) && checkAssNumValid(*candidate, shiftname, over, !firstLap)
+        // The tests only read, so the costly vacation test comes last.
+        if (candidate->attr(dayKey, QString()).isEmpty()
             && !(dayPos > 0 && firstLap && candidate->attr(previousDayKey, QString()) == shiftname)
-            && candidate->attr(dayKey, QString()).isEmpty()) {
+            && checkAssNumValid(*candidate, shiftname, over, !firstLap) && !checkVacation(date, id)) {
             candidate->setAttr(dayKey, shiftname);
             countOne(*candidate, shiftname + "_ass");
             countOne(assignStats, shiftname + "_ass");
@@ -133,7 +121,7 @@ int RosteraMain::getStaff(QVector<ASAttribute *> &list, const QString &id)
 int RosteraMain::checkStaffExist(QVector<ASAttribute> &list, const QString &groupname, const QString &id)
 {
     const auto matches = [&](const ASAttribute &staff) {
-        return staff.attr("groupname", QString()) == groupname && staff.attr("id", QString()) == id;
+        return staff.attr("id", QString()) == id && staff.attr("groupname", QString()) == groupname;
     };
     for (int i = 0; i < list.size(); ++i) {
         if (matches(list.at(i)))
