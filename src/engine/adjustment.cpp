@@ -1,6 +1,7 @@
 #include <QAbstractItemModel>
 #include <QTableWidget>
 
+#include "core/schedulelookup.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
@@ -9,19 +10,6 @@
 static QStringList staffsOf(const ASAttribute &record)
 {
     return record.attr("staffs", QString()).split(';', Qt::SkipEmptyParts);
-}
-
-// A new cell record carries only its key; the "infotype" is of no use to the save.
-static ASAttribute firstOrNew(const QVector<ASAttribute> &records, const QString &date, const QString &group,
-                              const QString &shift)
-{
-    if (!records.isEmpty())
-        return records.first();
-    ASAttribute record;
-    record.setAttr("date", date);
-    record.setAttr("groupname", group);
-    record.setAttr("shiftname", shift);
-    return record;
 }
 
 // The end of both try-outs: tips about the day's demand. They only warn; the commit that
@@ -124,7 +112,7 @@ bool RosteraMain::adjustScheduleCommit(int row, int col, QString value, bool com
             QVector<ASAttribute> records;
             if (!readRecords(shift, records))
                 return false;
-            ASAttribute record = firstOrNew(records, dateText, group, shift);
+            ASAttribute record = records.isEmpty() ? newSchedule(dateText, group, shift) : records.first();
             QStringList staffs = staffsOf(record);
             // Deliberately ends the whole commit: the shifts after this one stay unwritten.
             if (staffs.contains(employee))
@@ -143,7 +131,7 @@ bool RosteraMain::adjustScheduleCommit(int row, int col, QString value, bool com
     QVector<ASAttribute> records;
     if (!readRecords(shift, records))
         return !commit;
-    ASAttribute record = firstOrNew(records, dateText, group, shift);
+    ASAttribute record = records.isEmpty() ? newSchedule(dateText, group, shift) : records.first();
     // The commit keeps empty items between ids; an empty text is no item at all.
     const QString stored = record.attr("staffs", QString());
     QStringList staffs = !commit ? staffsOf(record) : stored.isEmpty() ? QStringList() : stored.split(';');
