@@ -112,6 +112,8 @@ void TestAdjustment::tryOutByEmployee_data()
     // The first record read serves every shift of the cell: T's own record is not looked at.
     QTest::newRow("first record serves all") << "S:2|T:3;4" << "S\nT" << 0 << "";
     QTest::newRow("several shifts, enough") << "S:2;3" << "T\nS" << 0 << kEnough;
+    // The demand is the first row's: S needs 2 of the 2 listed, where T's row would need only 1.
+    QTest::newRow("first row serves all") << "T:2" << "S\nT" << 0 << "";
 }
 
 void TestAdjustment::tryOutByEmployee()
@@ -134,24 +136,27 @@ void TestAdjustment::tryOutByEmployee()
 void TestAdjustment::tryOutBySchedule_data()
 {
     QTest::addColumn<QString>("shiftname");
+    QTest::addColumn<int>("column");
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("cellValue");
     QTest::addColumn<QString>("value");
     QTest::addColumn<bool>("answer");
     QTest::addColumn<QString>("tip");
 
-    QTest::newRow("room left") << "S" << "3" << "3" << "3\n4" << true << "";
-    QTest::newRow("swap within need") << "S" << "3;4" << "3\n4" << "1\n2" << true << "";
-    QTest::newRow("enough") << "S" << "3;4" << "3\n4" << "3\n4\n1" << true << kEnough;
-    QTest::newRow("cell behind the record") << "S" << "3;4" << "3" << "4" << false << kAlready;
-    QTest::newRow("twice in the new value") << "S" << "" << "" << "1\n1" << false << kAlready;
-    QTest::newRow("no row for the shift") << "U" << "" << "" << "1" << true << kNoNeed;
-    QTest::newRow("nothing chosen") << "S" << "3;4;1" << "3\n4\n1" << "" << true << "";
+    QTest::newRow("room left") << "S" << 0 << "3" << "3" << "3\n4" << true << "";
+    QTest::newRow("swap within need") << "S" << 0 << "3;4" << "3\n4" << "1\n2" << true << "";
+    QTest::newRow("enough") << "S" << 0 << "3;4" << "3\n4" << "3\n4\n1" << true << kEnough;
+    QTest::newRow("nobody needed") << "S" << 1 << "" << "" << "1" << true << kNoNeed;
+    QTest::newRow("cell behind the record") << "S" << 0 << "3;4" << "3" << "4" << false << kAlready;
+    QTest::newRow("twice in the new value") << "S" << 0 << "" << "" << "1\n1" << false << kAlready;
+    QTest::newRow("no row for the shift") << "U" << 0 << "" << "" << "1" << true << kNoNeed;
+    QTest::newRow("nothing chosen") << "S" << 0 << "3;4;1" << "3\n4\n1" << "" << true << "";
 }
 
 void TestAdjustment::tryOutBySchedule()
 {
     QFETCH(QString, shiftname);
+    QFETCH(int, column);
     QFETCH(QString, stored);
     QFETCH(QString, cellValue);
     QFETCH(QString, value);
@@ -163,7 +168,7 @@ void TestAdjustment::tryOutBySchedule()
     ASAttribute row = scheduleRow();
     row.setAttr("shiftname", shiftname);
     setCell(row, cellValue);
-    QCOMPARE(window->adjustScheduleCommit(0, 0, value, false), answer);
+    QCOMPARE(window->adjustScheduleCommit(0, column, value, false), answer);
     QCOMPARE(window->tipText, tip);
     QCOMPARE(scheduleTable().size(), plan.schedule.size());
 }
@@ -174,6 +179,10 @@ void TestAdjustment::holidaysPileUp()
     plan.holidays = {holiday("2026-03-02", 1, 0)};
     QVERIFY(writePlan(plan));
     setCell(employeeRow(), "");
+    // A shift without a row is told before the holiday is looked at.
+    QVERIFY(window->adjustScheduleCommit(0, 0, "U", false));
+    QCOMPARE(window->tipText, kNoNeed);
+    QVERIFY(window->holidays.isEmpty());
     QVERIFY(window->adjustScheduleCommit(0, 0, "S", false));
     QCOMPARE(window->tipText, kHoliday);
     window->tipText.clear();
@@ -184,7 +193,7 @@ void TestAdjustment::holidaysPileUp()
 
     // The commit writes all the same.
     QVERIFY(window->adjustScheduleCommit(0, 0, "1", true));
-    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S 1"}));
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S ;1"}));
 }
 
 // The employee leaves the old shifts (a record left empty is deleted) and joins the new ones.
@@ -222,11 +231,12 @@ void TestAdjustment::commitBySchedule()
     QVERIFY(window->adjustScheduleCommit(0, 0, "", true));
     QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G T 3;;4"}));
 
-    // A new record, beyond the need and on a day without demand: nothing is compared.
+    // A new record, beyond the need and on a day without demand: nothing is compared. The
+    // empty text of a record without staff is one empty item, kept like the others.
     window->cycleDates = {kMonday.addDays(5)};
     setCell(scheduleRow(), "");
     QVERIFY(window->adjustScheduleCommit(0, 0, "1\n2\n3", true));
-    QCOMPARE(cell("2026-03-07", "G", "S"), QString("1;2;3"));
+    QCOMPARE(cell("2026-03-07", "G", "S"), QString(";1;2;3"));
 
     // Empty items between ids are kept.
     window->cycleDates = {kMonday};
@@ -239,7 +249,7 @@ void TestAdjustment::commitBySchedule()
     // A row without a group (the lock mode's rows) works on the empty group.
     setCell(record({{"type", "shiftview"}, {"shiftname", "U"}}), "");
     QVERIFY(window->adjustScheduleCommit(0, 0, "4", true));
-    QCOMPARE(cell("2026-03-02", "", "U"), QString("4"));
+    QCOMPARE(cell("2026-03-02", "", "U"), QString(";4"));
     QCOMPARE(window->tipText, QString());
 }
 
@@ -275,14 +285,17 @@ void TestAdjustment::failedReadAndWrite()
     const QString tryTip = window->tipText;
     const bool committed = window->adjustScheduleCommit(0, 0, "1", true);
     const QString commitTip = window->tipText;
+    window->tipText.clear();
     setCell(employeeRow(), "");
     const bool committedByEmployee = window->adjustScheduleCommit(0, 0, "S", true);
+    const QString employeeTip = window->tipText;
     QVERIFY(query.exec("ALTER TABLE t_moved RENAME TO t_schedule"));
     QVERIFY(tried);
     QCOMPARE(tryTip, QString());
     QVERIFY(!committed);
     QCOMPARE(commitTip, QString("Get schedule failed"));
     QVERIFY(!committedByEmployee);
+    QCOMPARE(employeeTip, QString("Get schedule failed"));
 }
 
 ROSTERA_TEST_MAIN(TestAdjustment)

@@ -1,7 +1,6 @@
 #include <QAbstractItemModel>
 #include <QTableWidget>
 
-#include "core/schedulelookup.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
@@ -10,6 +9,20 @@
 static QStringList staffsOf(const ASAttribute &record)
 {
     return record.attr("staffs", QString()).split(';', Qt::SkipEmptyParts);
+}
+
+// The first record of a cell, or a new one that carries only the cell's key: the save has no
+// use for an "infotype".
+static ASAttribute firstOrNew(const QVector<ASAttribute> &records, const QString &date, const QString &group,
+                              const QString &shift)
+{
+    if (!records.isEmpty())
+        return records.first();
+    ASAttribute record;
+    record.setAttr("date", date);
+    record.setAttr("groupname", group);
+    record.setAttr("shiftname", shift);
+    return record;
 }
 
 // The end of both try-outs: tips about the day's demand. They only warn; the commit that
@@ -112,7 +125,7 @@ bool RosteraMain::adjustScheduleCommit(int row, int col, QString value, bool com
             QVector<ASAttribute> records;
             if (!readRecords(shift, records))
                 return false;
-            ASAttribute record = records.isEmpty() ? newSchedule(dateText, group, shift) : records.first();
+            ASAttribute record = firstOrNew(records, dateText, group, shift);
             QStringList staffs = staffsOf(record);
             // Deliberately ends the whole commit: the shifts after this one stay unwritten.
             if (staffs.contains(employee))
@@ -131,10 +144,10 @@ bool RosteraMain::adjustScheduleCommit(int row, int col, QString value, bool com
     QVector<ASAttribute> records;
     if (!readRecords(shift, records))
         return !commit;
-    ASAttribute record = records.isEmpty() ? newSchedule(dateText, group, shift) : records.first();
-    // The commit keeps empty items between ids; an empty text is no item at all.
-    const QString stored = record.attr("staffs", QString());
-    QStringList staffs = !commit ? staffsOf(record) : stored.isEmpty() ? QStringList() : stored.split(';');
+    ASAttribute record = firstOrNew(records, dateText, group, shift);
+    // The commit keeps empty items, the one of an empty text too: ids put into a cell that had
+    // no staff follow a ";".
+    QStringList staffs = commit ? record.attr("staffs", QString()).split(';') : staffsOf(record);
     for (const QString &id : oldList)
         staffs.removeOne(id);
     for (const QString &id : newList) {
