@@ -161,6 +161,16 @@ void TestCheck::checkStopsAtTen()
     // Repair mode has no limit and reports only what removal cannot mend: all eleven shortages.
     QCOMPARE(window->checkSchedule(true).size(), 11);
     QVERIFY(scheduleTable().isEmpty());
+
+    // The limit is also tested after each name of a record: the names past the tenth and the
+    // count of the record go unreported.
+    plan.schedule = {scheduleRecord("2026-03-02", "G", "T", "a0;a1;a2;a3;a4;a5;a6;a7;a8;a9;a10")};
+    QVERIFY(writePlan(plan));
+    window->cycleDates = daysFrom(kMonday, 1);
+    const QStringList names = window->checkSchedule(false);
+    QCOMPARE(names.size(), 10);
+    QCOMPARE(names.last(),
+             QString("Date:[2026-03-02]Group:[G]Shift:[T],Employee [a9] doesn't exist,don't assign the employee"));
 }
 
 // The duplicate makes the count right in check mode; repair removes it and then the
@@ -257,12 +267,25 @@ void TestCheck::panelRepairWithoutRefill()
     QVERIFY(writePlan(plan));
     window->cycleDates = daysFrom(kMonday, 2);
     RandomScript::set({});
-    BoxAnswer no(QMessageBox::No);
-    panel()->ui->btn_repairSchedule->setEnabled(true);
-    panel()->ui->btn_repairSchedule->click();
+    {
+        BoxAnswer no(QMessageBox::No);
+        panel()->ui->btn_repairSchedule->setEnabled(true);
+        panel()->ui->btn_repairSchedule->click();
+    }
     QCOMPARE(RandomScript::drawn(), 0);
     // The second date is short of nobody but 1 now works two days running: that is allowed.
     QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G T 1", "2026-03-03 G T 1"}));
+    QCOMPARE(panel()->ui->schedule_textTip->text(), QString("Current schedule is correct"));
+
+    // Yes fills open places only where the repair left some: here removal mends all.
+    plan.schedule = {scheduleRecord("2026-03-02", "G", "T", "1;2"), scheduleRecord("2026-03-03", "G", "T", "3")};
+    QVERIFY(writePlan(plan));
+    BoxAnswer yes(QMessageBox::Yes);
+    panel()->refreshCheckState(false, {"before"});
+    panel()->ui->btn_repairSchedule->click();
+    QCOMPARE(yes.shown(), 1);
+    QCOMPARE(RandomScript::drawn(), 0);
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G T 1", "2026-03-03 G T 3"}));
     QCOMPARE(panel()->ui->schedule_textTip->text(), QString("Current schedule is correct"));
 }
 
@@ -285,18 +308,41 @@ void TestCheck::panelRepairSaveFailure()
     QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S 9;1;2", "2026-03-02 G T 3"}));
 }
 
+// The tip label of QToolTip, while it is shown.
+static QWidget *shownTip()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QTipLabel") && widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+// The tip appears after a delay at the lower left corner of the cell.
 void TestCheck::tipAtCell()
 {
     QTableWidget *table = window->ui->tableWidget;
     table->setRowCount(2);
     table->setColumnCount(2);
+    table->setRowHeight(0, 40);
+    table->setRowHeight(1, 60);
+    table->setColumnWidth(0, 90);
     window->show();
+    // Where QToolTip puts its label relative to the point it is given.
+    QToolTip::showText(table->mapToGlobal(QPoint(0, 0)), "reference");
+    QVERIFY(shownTip());
+    const QPoint offset = shownTip()->pos() - table->mapToGlobal(QPoint(0, 0));
+    QToolTip::hideText();
+    QTRY_VERIFY(!shownTip());
+
     window->show_tip(1, 1, "Already assigned on that day");
     QCOMPARE(window->tipRow, 1);
     QCOMPARE(window->tipCol, 1);
     QCOMPARE(window->tipText, QString("Already assigned on that day"));
     QVERIFY(QToolTip::text().isEmpty());
     QTRY_COMPARE_WITH_TIMEOUT(QToolTip::text(), QString("Already assigned on that day"), 1000);
+    const QPoint corner(table->columnViewportPosition(1), table->rowViewportPosition(1) + 60);
+    QCOMPARE(shownTip()->pos(), table->mapToGlobal(corner) + offset);
     QToolTip::hideText();
     window->hide();
 }

@@ -15,6 +15,12 @@
 
 static const QDate kMonday(2026, 3, 9);
 
+// A date edit's display format and whether it has a calendar pop-up.
+static QString dateEditForm(const QDateEdit *edit)
+{
+    return edit->displayFormat() + (edit->calendarPopup() ? " popup " : " ");
+}
+
 class TestCopyClear : public QObject
 {
     Q_OBJECT
@@ -103,6 +109,11 @@ void TestCopyClear::copyPreviousCycle()
     QCOMPARE(scheduleTable(),
              QStringList({"2026-03-01 G S x", "2026-03-02 G S a", "2026-03-02 H S h", "2026-03-08 G S b",
                           "2026-03-13 G S b", "2026-03-16 G S keep"}));
+
+    // Backwards: the dates move back by as many days.
+    window->copySchedule(kMonday, QDate(2026, 3, 2), 7, true);
+    QCOMPARE(scheduleTable(),
+             QStringList({"2026-03-01 G S x", "2026-03-06 G S b", "2026-03-13 G S b", "2026-03-16 G S keep"}));
 }
 
 void TestCopyClear::copyRefusedOrOverlapping()
@@ -133,6 +144,8 @@ void TestCopyClear::copyFromEmptySource()
     BoxAnswer yes(QMessageBox::Yes);
     window->copySchedule(QDate(2026, 2, 2), kMonday, 7, true);
     QCOMPARE(yes.texts(), QStringList({"Are you sure to replace existing schedule?", "Source schedule is empty, continue?"}));
+    QCOMPARE(yes.buttons(), QMessageBox::Yes | QMessageBox::No);
+    QCOMPARE(yes.icon(), QMessageBox::Question);
     QCOMPARE(scheduleTable(), QStringList({"2026-03-01 G S x", "2026-03-02 G S a", "2026-03-02 H S h",
                                            "2026-03-08 G S b", "2026-03-16 G S keep"}));
 }
@@ -172,9 +185,12 @@ void TestCopyClear::copySpecifiedCycle()
     window->cycleDates = daysFrom(kMonday, 3);
     QStringList seen;
     whenDialogOpens<CopyScheduleSettings>([&seen](CopyScheduleSettings *dialog) {
-        seen << dialog->windowTitle() << dialog->ui->dt_copyFrom->date().toString("yyyy-MM-dd")
-             << QString::number(dialog->ui->ed_copyDays->value()) << dialog->ui->dt_copyTo->date().toString("yyyy-MM-dd")
-             << dialog->ui->dt_copyFrom->displayFormat();
+        const Ui_CopyScheduleSettings *ui = dialog->ui;
+        seen << dialog->windowTitle() << ui->dt_copyFrom->date().toString("yyyy-MM-dd")
+             << QString::number(ui->ed_copyDays->value()) << ui->dt_copyTo->date().toString("yyyy-MM-dd")
+             << ui->label_copyFrom->text() + ui->label_copyDays->text() + ui->label_copyTo->text()
+             << QString("%1-%2").arg(ui->ed_copyDays->minimum()).arg(ui->ed_copyDays->maximum())
+             << dateEditForm(ui->dt_copyFrom) + dateEditForm(ui->dt_copyTo);
         dialog->ui->dt_copyFrom->setDate(QDate(2026, 3, 2));
         dialog->ui->ed_copyDays->setValue(8);
         dialog->accept();
@@ -184,7 +200,8 @@ void TestCopyClear::copySpecifiedCycle()
     });
     BoxAnswer yes(QMessageBox::Yes);
     window->on_copySpecifiedCycle_schedule();
-    QCOMPARE(seen, QStringList({"Copy Specified Cycle Schedule", "2026-03-06", "3", "2026-03-09", "M/d/yyyy", "1"}));
+    QCOMPARE(seen, QStringList({"Copy Specified Cycle Schedule", "2026-03-06", "3", "2026-03-09",
+                                "Copy from:Copy days:Copy to:", "1-999", "M/d/yyyy popup M/d/yyyy popup ", "1"}));
     QCOMPARE(yes.texts(), QStringList({"There has overlapping day between from and to dates",
                                        "Are you sure to replace existing schedule?"}));
     QCOMPARE(cell("2026-03-15", "G", "S"), QString("b"));
@@ -222,6 +239,13 @@ void TestCopyClear::clearOneGroup()
     BoxAnswer yes(QMessageBox::Yes);
     window->clearSchedule(QDate(2026, 3, 1), QDate(2026, 3, 10));
     QCOMPARE(scheduleTable(), QStringList({"2026-03-02 H S h", "2026-03-10 H S old", "2026-03-16 G S keep"}));
+
+    // "<None>" stands for the records without a group.
+    plan.schedule = {scheduleRecord("2026-03-02", "", "S", "n"), scheduleRecord("2026-03-02", "H", "S", "h")};
+    QVERIFY(writePlan(plan));
+    setView(window, 1);
+    window->clearSchedule(QDate(2026, 3, 1), QDate(2026, 3, 10));
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 H S h"}));
 }
 
 void TestCopyClear::clearSpecifiedDates()
@@ -229,8 +253,10 @@ void TestCopyClear::clearSpecifiedDates()
     window->cycleDates = daysFrom(kMonday, 3);
     QStringList seen;
     whenDialogOpens<ClearScheduleSettings>([&seen](ClearScheduleSettings *dialog) {
-        seen << dialog->windowTitle() << dialog->ui->dt_from->date().toString("yyyy-MM-dd")
-             << dialog->ui->dt_to->date().toString("yyyy-MM-dd");
+        const Ui_ClearScheduleSettings *ui = dialog->ui;
+        seen << dialog->windowTitle() << ui->dt_from->date().toString("yyyy-MM-dd")
+             << ui->dt_to->date().toString("yyyy-MM-dd") << ui->label_from->text() + ui->label_to->text()
+             << dateEditForm(ui->dt_from) + dateEditForm(ui->dt_to);
         dialog->ui->dt_from->setDate(QDate(2026, 3, 8));
         dialog->ui->dt_to->setDate(QDate(2026, 3, 1));
         dialog->accept();
@@ -240,11 +266,16 @@ void TestCopyClear::clearSpecifiedDates()
     });
     BoxAnswer yes(QMessageBox::Yes);
     window->on_clear_date_schedule();
-    QCOMPARE(seen, QStringList({"Clear Schedule", "2026-03-09", "2026-03-11", "1"}));
+    QCOMPARE(seen, QStringList({"Clear Schedule", "2026-03-09", "2026-03-11", "Date from:Date to:",
+                                "M/d/yyyy popup M/d/yyyy popup ", "1"}));
     QCOMPARE(yes.texts(), QStringList({"To date can't before from date",
                                        "Are you sure to clear existing schedule\nfrom 3/8/2026 to 3/8/2026?"}));
     QVERIFY(!scheduleTable().contains("2026-03-08 G S b"));
     QCOMPARE(scheduleTable().size(), plan.schedule.size() - 1);
+
+    whenDialogOpens<ClearScheduleSettings>([](ClearScheduleSettings *dialog) { dialog->reject(); });
+    window->on_clear_date_schedule();
+    QCOMPARE(yes.shown(), 2);
 }
 
 void TestCopyClear::clearFailure()
