@@ -15,6 +15,7 @@
 #include "core/helpers.h"
 #include "engine/schedulestatus.h"
 #include "mainwindow/rosteramain.h"
+#include "mainwindow/scheduledelegate.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
 #include "ui_rosteramain.h"
@@ -161,6 +162,10 @@ void TestFrame::windowForm()
                                                   | QAbstractItemView::AnyKeyPressed);
     QVERIFY(ui->tableWidget->horizontalHeader()->stretchLastSection());
     QCOMPARE(ui->tableWidget->verticalHeader()->defaultAlignment(), Qt::AlignRight);
+    // Cell edits go through the program's own delegate, owned by the window.
+    const auto *delegate = qobject_cast<ScheduleDelegate *>(ui->tableWidget->itemDelegate());
+    QVERIFY(delegate);
+    QCOMPARE(delegate->parent(), window);
 
     const QList<QStringList> buttons = {
         {"btn_preyear", "Y", "The previous year", ":/res/year_pre.ico"},

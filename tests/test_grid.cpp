@@ -83,11 +83,14 @@ void TestGrid::initTestCase()
     QVector<ASAttribute> shifts = {
         record({{"name", "Day"}, {"abbreviation", "D"}, {"starttm", "09:00"}, {"endtm", "17:00"}}),
         record({{"name", "Night"}, {"abbreviation", "N"}, {"starttm", "22:00"}, {"endtm", "06:00"}}),
+        // No abbreviation: shown by its name where the grid asks getShiftAbbre, empty where it
+        // reads the field itself.
+        record({{"name", "Late"}, {"starttm", "14:00"}, {"endtm", "22:00"}}),
     };
     QVERIFY(getDB()->saveShiftInfo(shifts));
     QVector<ASAttribute> lines;
     for (const auto &[group, shift] : QList<QPair<QString, QString>>{
-             {"Alpha", "Day"}, {"Alpha", "Night"}, {"Beta", "Day"}, {"", "Night"}})
+             {"Alpha", "Day"}, {"Alpha", "Night"}, {"Beta", "Day"}, {"Beta", "Late"}, {"", "Night"}})
         lines << record({{"groupname", group}, {"shiftname", shift}, {"daystaffnum", "1;1;1;1;1;1;1"}});
     QVERIFY(getDB()->savePermanentSchedule(lines));
 
@@ -101,6 +104,9 @@ void TestGrid::initTestCase()
              {"2025-03-12", "", "Night", "N1"},
              {"2025-03-13", "Gone", "Day", "A1"},
              {"2025-03-14", "Alpha", "Night", ""},
+             // An employee of Beta staffed in an Alpha line.
+             {"2025-03-13", "Alpha", "Night", "B2"},
+             {"2025-03-15", "Beta", "Late", "B2"},
              {"2025-03-20", "Alpha", "Day", "A2"}})
         schedule << record({{"date", s[0]}, {"groupname", s[1]}, {"shiftname", s[2]}, {"staffs", s[3]}});
     QVERIFY(getDB()->saveSchedule(schedule));
@@ -152,6 +158,8 @@ void TestGrid::dateSpan_data()
     const QDate saturday(2025, 3, 15);
     QTest::newRow("monday week") << 0 << 7 << "1,2,3,4,5,6,7" << kWednesday << "10 11 12 13 14 15 16" << 2;
     QTest::newRow("from picked date") << -1 << 7 << "1,2,3,4,5,6,7" << kWednesday << "12 13 14 15 16 17 18" << 0;
+    QTest::newRow("tuesday week") << 1 << 7 << "1,2,3,4,5,6,7" << kWednesday << "11 12 13 14 15 16 17" << 1;
+    QTest::newRow("friday week goes back five") << 4 << 7 << "1,2,3,4,5,6,7" << kWednesday << "07 08 09 10 11 12 13" << 5;
     QTest::newRow("sunday week, picked before") << 6 << 7 << "1,2,3,4,5,6,7" << kWednesday << "09 10 11 12 13 14 15" << 3;
     QTest::newRow("start day is picked day") << 2 << 7 << "1,2,3,4,5,6,7" << kWednesday << "12 13 14 15 16 17 18" << 0;
     QTest::newRow("thursday week goes back six") << 3 << 7 << "1,2,3,4,5,6,7" << kWednesday << "06 07 08 09 10 11 12" << 6;
@@ -161,6 +169,12 @@ void TestGrid::dateSpan_data()
     QTest::newRow("picked day off has no mark") << 0 << 7 << "1,2,3,4,5" << saturday << "10 11 12 13 14 17 18" << -1;
     QTest::newRow("picked day off, no week start") << -1 << 7 << "1,2,3,4,5" << saturday << "17 18 19 20 21 24 25" << -1;
     QTest::newRow("start moves to first work day") << 0 << 3 << "3,5" << kWednesday << "12 14 19" << 0;
+    // The week starts on Saturday, a day off: the cycle begins on the Monday after, and the
+    // picked Sunday has no column.
+    QTest::newRow("week start is a day off") << 5 << 7 << "1,2,3,4,5" << QDate(2025, 3, 16) << "17 18 19 20 21 24 25"
+                                             << -1;
+    // Only a list of one to six items moves the first date; a longer one keeps it even on a day off.
+    QTest::newRow("long list keeps first date") << 0 << 3 << "3,5,3,5,3,5,3,5" << kWednesday << "10 12 14" << 1;
     QTest::newRow("one day") << 0 << 1 << "1,2,3,4,5,6,7" << kWednesday << "10" << -1;
     // Hand-edited values that name no day must not hang the window.
     QTest::newRow("no day named") << 0 << 7 << "8" << kWednesday << "10 11 12 13 14 15 16" << 2;
@@ -215,13 +229,17 @@ void TestGrid::rows_data()
     QTest::newRow("employees, empty group") << 0 << 1 << false << "Gamma" << "" << QStringList{} << "personview";
     QTest::newRow("employees, one") << 0 << 2 << false << "Alpha" << "A2" << QStringList{"A2"} << "personview";
     QTest::newRow("employees, all, option on") << 0 << 0 << true << "" << "" << allStaff << "personview";
-    QTest::newRow("schedule, all") << 1 << 0 << false << "" << "" << QStringList{"AL--D", "N", "BE--D", "--N"}
+    QTest::newRow("employees, one group, option on") << 0 << 1 << true << "Beta" << "" << QStringList{"B1", "B2"}
+                                                     << "personview";
+    QTest::newRow("schedule, all") << 1 << 0 << false << "" << "" << QStringList{"AL--D", "N", "BE--D", "Late", "--N"}
                                    << "scheduleview";
     QTest::newRow("schedule, one group") << 1 << 1 << false << "Alpha" << "" << QStringList{"D", "N"} << "scheduleview";
     QTest::newRow("schedule, no group") << 1 << 1 << false << "<None>" << "" << QStringList{"N"} << "scheduleview";
     // One employee by schedule never sets the group: only the line without a group is left.
     QTest::newRow("schedule, one employee") << 1 << 2 << false << "Alpha" << "A2" << QStringList{"N"} << "scheduleview";
-    QTest::newRow("shifts, option on") << 1 << 1 << true << "Alpha" << "" << QStringList{"D", "N"} << "shiftview";
+    // Every shift, whatever group or employee is chosen, and no group marks.
+    QTest::newRow("shifts, option on") << 1 << 1 << true << "Alpha" << "" << QStringList{"D", "N", ""} << "shiftview";
+    QTest::newRow("shifts, all, option on") << 1 << 0 << true << "" << "" << QStringList{"D", "N", ""} << "shiftview";
 }
 
 void TestGrid::rows()
@@ -262,7 +280,11 @@ void TestGrid::cellsByEmployee()
     QCOMPARE(cell(0, 2, Qt::UserRole), QString("Night"));
     // The record of a group that no longer exists, and the one after the cycle, show nowhere.
     QCOMPARE(cell(1, 3), QString("<no item>"));
-    for (int column = 0; column < 7; ++column)
+    // A shift without abbreviation shows its name. B2's place in an Alpha line is not looked
+    // for among Beta's rows.
+    QCOMPARE(cell(5, 5), QString("Late"));
+    QCOMPARE(cell(5, 5, Qt::UserRole), QString("Late"));
+    for (int column = 0; column < 5; ++column)
         QCOMPARE(cell(5, column), QString("<no item>"));
 
     QTableWidget *table = window->ui->tableWidget;
@@ -280,20 +302,34 @@ void TestGrid::cellsByEmployee()
 void TestGrid::cellsBySchedule()
 {
     show(1, 0);
-    // Rows: Alpha Day, Alpha Night, Beta Day, Night without a group.
+    // Rows: Alpha Day, Alpha Night, Beta Day, Beta Late, Night without a group.
     QCOMPARE(cell(0, 0), QString("A1\nA2"));
     QCOMPARE(cell(0, 0, Qt::UserRole), QString("A1\nA2"));
     // Ids are shown as stored, known or not.
     QCOMPARE(cell(0, 1), QString("A3\nX9"));
     QCOMPARE(cell(1, 0), QString("A1"));
+    QCOMPARE(cell(1, 3), QString("B2"));
     QCOMPARE(cell(1, 4), QString(""));
     QCOMPARE(cell(2, 1), QString("B1"));
-    QCOMPARE(cell(3, 2, Qt::UserRole), QString("N1"));
+    QCOMPARE(cell(3, 5), QString("B2"));
+    QCOMPARE(cell(4, 2, Qt::UserRole), QString("N1"));
     QCOMPARE(cell(2, 0), QString("<no item>"));
 
     QTableWidget *table = window->ui->tableWidget;
     QCOMPARE(table->rowHeight(0), 50);
     QCOMPARE(table->rowHeight(1), 30);
+
+    // A second line of the same group and shift right after the first: one query served both,
+    // and the second row stays empty.
+    const QVector<ASAttribute> saved = getDB()->permanentSchedules;
+    getDB()->permanentSchedules.insert(1, saved.first());
+    show(1, 0);
+    getDB()->permanentSchedules = saved;
+    QCOMPARE(window->rowLabels, (QStringList{"AL--D", "D", "N", "BE--D", "Late", "--N"}));
+    QCOMPARE(cell(0, 0), QString("A1\nA2"));
+    for (int column = 0; column < 7; ++column)
+        QCOMPARE(cell(1, column), QString("<no item>"));
+    QCOMPARE(cell(2, 0), QString("A1"));
 }
 
 void TestGrid::cellsWithLockOption()
@@ -307,14 +343,19 @@ void TestGrid::cellsWithLockOption()
     QCOMPARE(cell(1, 3), QString("D"));
     QCOMPARE(cell(1, 3, Qt::UserRole), QString("Day"));
     QCOMPARE(cell(0, 2), QString("N"));
+    // Without a group in the query B2's place in an Alpha line shows too.
+    QCOMPARE(cell(5, 3), QString("N"));
+    QCOMPARE(cell(5, 5), QString("Late"));
 
     // By shift: every group's record of a shift and date lands in one cell, the last one wins.
     show(1, 0);
-    QCOMPARE(window->rowLabels, (QStringList{"D", "N"}));
+    QCOMPARE(window->rowLabels, (QStringList{"D", "N", ""}));
     QCOMPARE(cell(0, 0), QString("A1\nA2"));
     QCOMPARE(cell(0, 1), QString("B1"));
     QCOMPARE(cell(0, 3), QString("A1"));
     QCOMPARE(cell(1, 2), QString("N1"));
+    QCOMPARE(cell(1, 3), QString("B2"));
+    QCOMPARE(cell(2, 5), QString("B2"));
 }
 
 void TestGrid::failedReadStopsQuietly()
@@ -383,6 +424,19 @@ void TestGrid::settingsChangeKeepsChoice()
     QCOMPARE(window->ui->cmb_group->currentIndex(), 0);
     QCOMPARE(window->ui->cmb_person->currentText(), QString("N1"));
     QCOMPARE(window->rowLabels, QStringList{"N1"});
+
+    // The first person of a group counts as no choice: after a refill the box's first entry is
+    // current, even when it is another employee now.
+    window->settingsChange();
+    show(0, 2, "Alpha", "A1");
+    QCOMPARE(window->ui->cmb_person->currentIndex(), 0);
+    const QVector<ASAttribute> staffs = getDB()->staffs;
+    getDB()->staffs.insert(1, record({{"id", "A0"}, {"groupname", "Alpha"}}));
+    window->settingsChange();
+    getDB()->staffs = staffs;
+    QCOMPARE(window->ui->cmb_group->currentText(), QString("Alpha"));
+    QCOMPARE(window->ui->cmb_person->currentText(), QString("A0"));
+    QCOMPARE(window->rowLabels, QStringList{"A0"});
 }
 
 void TestGrid::settingsChangeAppliesLockOption()
@@ -425,7 +479,7 @@ void TestGrid::menuMovesCheckWithoutRedraw()
 
     // A click on a button redraws at once.
     QTest::mouseClick(window->toolBar->ui->btn_allGroup, Qt::LeftButton);
-    QCOMPARE(window->rowLabels, (QStringList{"AL--D", "N", "BE--D", "--N"}));
+    QCOMPARE(window->rowLabels, (QStringList{"AL--D", "N", "BE--D", "Late", "--N"}));
     QTest::mouseClick(window->toolBar->ui->btn_byPerson, Qt::LeftButton);
     QCOMPARE(window->rowLabels.size(), 6);
     QCOMPARE(window->toolBar->getViewType(), 0);

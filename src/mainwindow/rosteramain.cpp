@@ -7,6 +7,7 @@
 
 #include "core/apppaths.h"
 #include "engine/schedulestatus.h"
+#include "mainwindow/scheduledelegate.h"
 #include "mainwindow/toolbar.h"
 #include "ui_rosteramain.h"
 
@@ -48,6 +49,7 @@ RosteraMain::RosteraMain(QWidget *parent)
         connect(action, &QAction::triggered, this, &RosteraMain::on_actionViewType);
 
     ui->tableWidget->verticalHeader()->setDefaultAlignment(Qt::AlignRight);
+    ui->tableWidget->setItemDelegate(new ScheduleDelegate(this));
     ui->tableWidget->installEventFilter(this);
 
     // Runs the date handler with the guard still set: it only labels the day and sets the dates.
