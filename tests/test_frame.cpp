@@ -72,10 +72,11 @@ public slots:
     void openUrl(const QUrl &url) { urls << url; }
 };
 
-// An icon draws the same as the resource file, which must exist.
+// An icon draws the same as the resource file, which must exist and draw.
 static bool isIcon(const QIcon &icon, const QString &path)
 {
-    return QFile::exists(path) && icon.pixmap(QSize(16, 16)).toImage() == QIcon(path).pixmap(QSize(16, 16)).toImage();
+    const QImage image = QIcon(path).pixmap(QSize(16, 16)).toImage();
+    return QFile::exists(path) && !image.isNull() && icon.pixmap(QSize(16, 16)).toImage() == image;
 }
 
 static QSettings config()
@@ -95,6 +96,7 @@ private slots:
     void menus_data();
     void menus();
     void toolStrip();
+    void resourceIconsDraw();
     void rosteraButtonStartsGeneration();
     void storedLanguageIsChecked_data();
     void storedLanguageIsChecked();
@@ -306,6 +308,26 @@ void TestFrame::toolStrip()
     QCOMPARE(entries, (QStringList{"Auto Generate Schedule", "Auto Generate Specified Date Schedule",
                                    "Copy Previous Cycle Schedule", "Copy Specified Cycle Schedule", "-",
                                    "Clear Schedule", "Clear Specified Date Schedule"}));
+}
+
+void TestFrame::resourceIconsDraw()
+{
+    // Every icon of the program, also those of the dialogs: each size of the file, visible.
+    const QStringList files = QDir(":/res").entryList(QDir::Files);
+    QVERIFY(files.size() >= 34);
+    for (const QString &file : files) {
+        QVERIFY2(file.endsWith(".ico"), qPrintable(file));
+        const QIcon icon(":/res/" + file);
+        QCOMPARE(icon.availableSizes(), (QList<QSize>{{16, 16}, {24, 24}, {32, 32}, {48, 48}}));
+        for (int size : {16, 48}) {
+            const QImage image = icon.pixmap(QSize(size, size)).toImage();
+            int opaque = 0;
+            for (int y = 0; y < size; ++y)
+                for (int x = 0; x < size; ++x)
+                    opaque += qAlpha(image.pixel(x, y)) > 128;
+            QVERIFY2(opaque > size * size / 10, qPrintable(file));
+        }
+    }
 }
 
 void TestFrame::rosteraButtonStartsGeneration()

@@ -470,6 +470,10 @@ void TestGrid::menuMovesCheckWithoutRedraw()
     // The grid still shows all employees until something redraws.
     QCOMPARE(window->rowLabels.size(), 6);
     QCOMPARE(window->gridRows.first().attr("type", QString()), QString("personview"));
+    // The refresh button shows it: the lines of "<None>", the group chosen in the box.
+    QTest::mouseClick(window->toolBar->ui->btn_refreshSchedule, Qt::LeftButton);
+    QCOMPARE(window->rowLabels, QStringList{"N"});
+    QCOMPARE(window->gridRows.first().attr("type", QString()), QString("scheduleview"));
 
     // Values that name no button change nothing.
     window->toolBar->setViewType(2);
