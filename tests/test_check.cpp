@@ -85,7 +85,10 @@ void TestCheck::correctWhenNothingToCheck()
     QVERIFY(!fresh.ui->btn_repairSchedule->isEnabled());
     QCOMPARE(fresh.ui->btn_checkSchedule->text(), QString("Check"));
     QCOMPARE(fresh.ui->btn_repairSchedule->text(), QString("Repair"));
+    QCOMPARE(fresh.ui->btn_checkSchedule->toolTip(), QString("Check current schedule"));
     QCOMPARE(fresh.ui->btn_repairSchedule->toolTip(), QString("Check current schedule"));
+    QVERIFY(!fresh.ui->btn_checkSchedule->icon().pixmap(16).isNull());
+    QVERIFY(!fresh.ui->btn_repairSchedule->icon().pixmap(16).isNull());
 
     window->cycleDates = daysFrom(kMonday, 1);
     panel()->refreshCheckState(false, {"x"});
