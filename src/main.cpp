@@ -1,7 +1,6 @@
 #include <QApplication>
-#include <QSettings>
+#include <QLocale>
 
-#include "core/apppaths.h"
 #include "mainwindow/appstart.h"
 #include "mainwindow/rosteramain.h"
 #include "persistence/databasefunc.h"
@@ -14,8 +13,7 @@ int main(int argc, char **argv)
     Q_INIT_RESOURCE(rostera);
     QCoreApplication::addLibraryPath("./plugins");
 
-    const int language = QSettings(getAppDataPath(0), QSettings::IniFormat).value("language", "0").toString().toInt();
-    installTranslators(chooseLanguageCode(language, QLocale::system().name()));
+    installTranslators(chooseLanguageCode(storedLanguage(), QLocale::system().name()));
     useWarningBoxes();
 
     if (!openStartDatabase())

@@ -15,6 +15,8 @@ private slots:
     void irregularLines();
     void commaInValueSplits();
     void emptyAndMissingFiles();
+    void commasOnly();
+    void bytesOutsideTheEncoding();
 
 private:
     QString path(const QString &name) const { return TestHome::path() + "/" + name; }
@@ -121,6 +123,32 @@ void TestCsv::emptyAndMissingFiles()
     QVERIFY(infoExport(records, fields, path("header.csv")));
     QVERIFY(infoImport(records, fields, path("header.csv")));
     QVERIFY(records.isEmpty());
+}
+
+// Without a header that names a wanted field nothing is bound, however many columns there are.
+void TestCsv::commasOnly()
+{
+    writeRaw("commas.csv", ",,,,,,\r\n,,,,,,,,,,,,\r\n,\r\n" + QByteArray(5000, ',') + "\r\n");
+    QVERIFY(load("commas.csv", {"name", "note"}).isEmpty());
+
+    writeRaw("wide.csv", "note,name\r\n" + QByteArray(5000, ',') + "\r\n");
+    const QVector<ASAttribute> records = load("wide.csv", {"name", "note"});
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(records.at(0), record({{"name", ""}, {"note", ""}}));
+}
+
+// A file from a machine with another encoding still loads: each byte that is not valid in
+// the locale's encoding becomes a replacement character, the rest stays as it is.
+void TestCsv::bytesOutsideTheEncoding()
+{
+    const QByteArray latin1 = QString("name,note\r\nM\u00fcller,caf\u00e9 ok\r\nPlain,x\r\n").toLatin1();
+    QVERIFY(latin1 != QString::fromLatin1(latin1).toLocal8Bit()); // the locale is not Latin-1
+    writeRaw("latin1.csv", latin1);
+    const QVector<ASAttribute> records = load("latin1.csv", {"name", "note"});
+    QCOMPARE(records.size(), 2);
+    QCOMPARE(records.at(0).attr("name", QString()), QString::fromLocal8Bit("M\xfcller"));
+    QVERIFY(records.at(0).attr("note", QString()).endsWith(" ok"));
+    QCOMPARE(records.at(1), record({{"name", "Plain"}, {"note", "x"}}));
 }
 
 ROSTERA_TEST_MAIN(TestCsv)

@@ -1,5 +1,6 @@
 #include <QDate>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
@@ -354,6 +355,19 @@ private slots:
         QCOMPARE(db->shifts.size(), readTemplate("shifts_template.csv").lines.size());
         QCOMPARE(fileHash(path), before);
         QCOMPARE(lastDb(), path);
+
+        // Root writes whatever the permissions say; for anyone else a save fails and keeps
+        // the table, the cache and the file as they were.
+        if (!QFileInfo(path).isWritable()) {
+            const QVector<ASAttribute> cached = db->groups;
+            QVector<ASAttribute> none;
+            QString error;
+            QVERIFY(!db->saveGroupInfo(none, error));
+            QVERIFY2(error.contains("readonly"), qPrintable(error));
+            QCOMPARE(db->groups, cached);
+            QCOMPARE(rows("SELECT COUNT(*) FROM t_groupinfo"), QList<QStringList>{{QString::number(cached.size())}});
+            QCOMPARE(fileHash(path), before);
+        }
     }
 
     void failedCreateEndsTheUpdate_data()

@@ -6,6 +6,8 @@
 #include <QStandardPaths>
 
 #include "core/apppaths.h"
+#include "core/helpers.h"
+#include "databasefixture.h"
 #include "mainwindow/appstart.h"
 #include "persistence/databasefunc.h"
 
@@ -15,10 +17,13 @@ class TestStartup : public QObject
 private slots:
     void languageCode_data();
     void languageCode();
+    void storedLanguage_data();
+    void storedLanguage();
     void dataPathsAreCreated();
     void supportPathIsBesideProgramFolder();
     void failedStartDatabaseWarns();
     void startDatabaseUsesLastDb();
+    void garbageConfigurationFile();
     // Last: the translators it installs stay for the rest of the run.
     void translatorsComeFromResources();
 };
@@ -40,8 +45,8 @@ void TestStartup::languageCode_data()
     QTest::newRow("english ignores locale") << 1 << "de_DE" << "";
     QTest::newRow("2 is german") << 2 << "en_US" << "de";
     QTest::newRow("4 is japanese") << 4 << "en_US" << "ja";
-    QTest::newRow("8 is spanish") << 7 << "en_US" << "es";
-    QTest::newRow("9 is italian") << 8 << "en_US" << "it";
+    QTest::newRow("7 is spanish") << 7 << "en_US" << "es";
+    QTest::newRow("8 is italian") << 8 << "en_US" << "it";
     QTest::newRow("10 is traditional chinese") << 10 << "en_US" << "zh_tw";
     QTest::newRow("11 is none") << 11 << "de_DE" << "";
     QTest::newRow("negative is none") << -1 << "de_DE" << "";
@@ -53,6 +58,43 @@ void TestStartup::languageCode()
     QFETCH(QString, locale);
     QFETCH(QString, code);
     QCOMPARE(chooseLanguageCode(language, locale), code);
+}
+
+void TestStartup::storedLanguage_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("language");
+    QTest::newRow("missing") << QByteArray() << 0;
+    QTest::newRow("number") << QByteArray("language=4") << 4;
+    QTest::newRow("out of range") << QByteArray("language=99") << 99;
+    QTest::newRow("empty") << QByteArray("language=") << 0;
+    QTest::newRow("word") << QByteArray("language=german") << 0;
+    QTest::newRow("fraction") << QByteArray("language=2.5") << 0;
+    QTest::newRow("list") << QByteArray("language=2, 3") << 0;
+}
+
+// Whatever the file holds, a number comes out; only a real number picks a language.
+void TestStartup::storedLanguage()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(int, language);
+    QVERIFY(writeFile(getAppDataPath(0), "[General]\n" + line + "\n"));
+    QCOMPARE(::storedLanguage(), language);
+    QVERIFY(QFile::remove(getAppDataPath(0)));
+}
+
+// A configuration file of binary junk gives the defaults: the first-start database.
+void TestStartup::garbageConfigurationFile()
+{
+    static const char junk[] = "\x01\xff[[=\n\x00\x00lastdb\xfe\n=====\n[Options\nlanguage\n";
+    QVERIFY(writeFile(getAppDataPath(0), QByteArray(junk, sizeof junk - 1).repeated(20)));
+    QCOMPARE(::storedLanguage(), 0);
+    BoxAnswer answer;
+    QVERIFY(openStartDatabase());
+    QCOMPARE(answer.shown(), 0);
+    QCOMPARE(getDB()->getDBName(), getAppDataPath(1) + "/default.db");
+    getDB()->closeDB();
+    QVERIFY(QFile::remove(getAppDataPath(0)));
 }
 
 void TestStartup::translatorsComeFromResources()
@@ -74,6 +116,9 @@ void TestStartup::translatorsComeFromResources()
     installTranslators("de");
     QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Abbrechen"));
     QVERIFY(QObject::tr("Open Database Failed!") != QString("Open Database Failed!"));
+    // The week-day names were fixed before any translator existed; "Error" is looked up each time.
+    QCOMPARE(getWeekDes(7), QString("Sunday"));
+    QCOMPARE(getWeekDes(0), QString("Fehler"));
 }
 
 void TestStartup::dataPathsAreCreated()

@@ -216,6 +216,7 @@ private slots:
         QTest::newRow("missing") << false << QByteArray();
         QTest::newRow("empty") << true << QByteArray();
         QTest::newRow("garbage") << true << QByteArray("\x01\x02\xff garbage;;;|\n\n\x7f\x03 more\r\n");
+        QTest::newRow("commas") << true << QByteArray(",,,,,,\r\n,,,\r\n,,,,,,,,,,,,\r\n");
     }
 
     void unusableTemplatesGiveEmptyTables()
@@ -235,6 +236,19 @@ private slots:
             QCOMPARE(rows(QString("SELECT COUNT(*) FROM %1").arg(table)), QList<QStringList>{{"0"}});
         QVERIFY(getDB()->groups.isEmpty());
         QVERIFY(getDB()->permanentSchedules.isEmpty());
+    }
+
+    void templateInAnotherEncoding()
+    {
+        // Bytes that the locale's encoding can't read are replaced; the row is seeded all the same.
+        const QByteArray latin1 = "name,abbreviation,note\r\nCaf\xe9,C,\xab" "fresh\xbb\r\n";
+        writeTemplate("groups_template.csv", latin1);
+        BoxAnswer answer;
+        QVERIFY(getDB()->openDB(file("latin1.db")));
+        QCOMPARE(answer.shown(), 0);
+        QCOMPARE(rows("SELECT * FROM t_groupinfo"),
+                 (QList<QStringList>{{QString::fromLocal8Bit("Caf\xe9"), "C", QString::fromLocal8Bit("\xab" "fresh\xbb")}}));
+        QCOMPARE(getDB()->groups.size(), 1);
     }
 
     void cleanupTestCase()

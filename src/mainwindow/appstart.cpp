@@ -2,10 +2,12 @@
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QSettings>
 #include <QStringList>
 #include <QTranslator>
 
 #include "core/appinfo.h"
+#include "core/apppaths.h"
 #include "persistence/databasefunc.h"
 
 void setApplicationIdentity()
@@ -14,6 +16,11 @@ void setApplicationIdentity()
     QCoreApplication::setOrganizationDomain(AppInfo::organizationDomain);
     QCoreApplication::setApplicationVersion(AppInfo::applicationVersion);
     QCoreApplication::setApplicationName(AppInfo::applicationName);
+}
+
+int storedLanguage()
+{
+    return QSettings(getAppDataPath(0), QSettings::IniFormat).value("language", "0").toString().toInt();
 }
 
 QString chooseLanguageCode(int language, const QString &systemLocale)
