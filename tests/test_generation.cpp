@@ -3,6 +3,7 @@
 #include "testhome.h"
 
 #include <QSpinBox>
+#include <QTableWidget>
 
 #include "engine/rosterasettings.h"
 #include "enginefixture.h"
@@ -35,6 +36,7 @@ private slots:
     void nothingForGroupWithoutEmployees();
     void shiftMissingFromShiftList();
     void keptRecordsStayAsTheyAre();
+    void keptNameHoldsItsDate();
     void untouchedKeptRecordsNeedLockMode();
     void oneGroupViewLeavesOtherGroups();
     void groupsFormedByAdjacency();
@@ -192,6 +194,21 @@ void TestGeneration::keptRecordsStayAsTheyAre()
     QCOMPARE(window->assignStats.attr("S_ass", QString()), QString("3"));
 }
 
+// A kept name holds its date: the employee is not picked for another shift of it.
+void TestGeneration::keptNameHoldsItsDate()
+{
+    plan.staffs = {staff("A", "G"), staff("B", "G")};
+    plan.rows = {standingRow("G", "S", "1;1;1;1;1;1;1"), standingRow("G", "T", "1;1;1;1;1;1;1")};
+    plan.schedule = {scheduleRecord("2026-03-02", "G", "T", "A")};
+    QVERIFY(writePlan(plan));
+    window->cycleDates = daysFrom(kMonday, 1);
+    // r = 1, shuffle 1, 0: A is the first candidate for S.
+    RandomScript::set({1, 0});
+    QVERIFY(window->auto_schedule(window->cycleDates, false));
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S B", "2026-03-02 G T A"}));
+    QCOMPARE(window->assignStats.attr("T_ass", QString()), QString("1"));
+}
+
 // Kept records that no row touched survive only in the lock mode. A kept name on a date
 // without demand still counts against the share, here so much that Monday stays open.
 void TestGeneration::untouchedKeptRecordsNeedLockMode()
@@ -250,24 +267,34 @@ void TestGeneration::groupsFormedByAdjacency()
     QCOMPARE(window->assignStats.attr("S", QString()), QString());
     QCOMPARE(window->assignStats.attr("T", QString()), QString("2"));
     QCOMPARE(scheduleTable().size(), 6);
+
+    // Rows of other groups left out of a one-group view do not part a group's rows.
+    setView(window, 1, "G");
+    window->cycleDates = daysFrom(kMonday, 2);
+    RandomScript::set({});
+    QVERIFY(window->auto_schedule(window->cycleDates, true));
+    QCOMPARE(RandomScript::drawn(), 2);
+    QCOMPARE(window->assignStats.attr("S", QString()), QString("2"));
+    QCOMPARE(window->assignStats.attr("T", QString()), QString("2"));
 }
 
-// Pass 0 places the locked employee before any other pick and moves the rotation; a lock of
-// several employees or an invalid lock has no effect.
+// Pass 0 places the locked employees of all dates before any other pick, and each of them
+// moves the rotation; a lock of several employees or an invalid lock has no effect.
 void TestGeneration::lockedEmployeesComeFirst()
 {
     plan.staffs = {staff("A", "G"), staff("B", "G"), staff("C", "G")};
     plan.rows = {standingRow("G", "S", "1;1;1;1;1;1;1")};
-    ASAttribute invalid = lockOf("A", "2026-03-04");
+    ASAttribute invalid = lockOf("A", "2026-03-03");
     invalid.setAttr("valid", QString("0"));
-    plan.locks = {lockOf("C", "2026-03-02"), lockOf("A;B", "2026-03-03"), invalid};
+    plan.locks = {lockOf("A;B", "2026-03-02"), invalid, lockOf("C", "2026-03-04")};
     QVERIFY(writePlan(plan));
     window->cycleDates = daysFrom(kMonday, 3);
-    // r = 0, shuffle 1, 2, 0: without the lock the picks would be B, C, A.
+    // r = 0, shuffle 1, 2, 0. C is placed on Wednesday first (r becomes 1); then Monday starts
+    // at C, whose share is used up, and takes A; Tuesday starts at A and takes B.
     RandomScript::set({0, 0, 0});
     QVERIFY(window->auto_schedule(window->cycleDates, true));
     QCOMPARE(window->shuffledStaff, QVector<int>({1, 2, 0}));
-    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S C", "2026-03-03 G S A", "2026-03-04 G S B"}));
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S A", "2026-03-03 G S B", "2026-03-04 G S C"}));
 
     plan.locks.clear();
     QVERIFY(writePlan(plan));
@@ -313,6 +340,7 @@ void TestGeneration::questionBeforeGenerating()
     plan.rows = {standingRow("G", "S", "1;1;1;1;1;1;1")};
     plan.schedule = {scheduleRecord("2026-03-02", "G", "S", "old")};
     QVERIFY(writePlan(plan));
+    window->ui->date_current->setDate(kMonday);
     RandomScript::set({});
     {
         BoxAnswer cancel(QMessageBox::Cancel);
@@ -329,6 +357,11 @@ void TestGeneration::questionBeforeGenerating()
     BoxAnswer yes(QMessageBox::Yes);
     window->on_auto_schedule();
     QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S A", "2026-03-03 G S A"}));
+    // The grid shows the new schedule: A's row has the shift on both dates.
+    QTableWidget *grid = window->ui->tableWidget;
+    QCOMPARE(grid->columnCount(), 7);
+    QVERIFY(grid->item(0, 0) && grid->item(0, 1));
+    QCOMPARE(grid->item(0, 0)->text() + grid->item(0, 1)->text(), QString("SS"));
 }
 
 // The dialog's dates bound what is deleted and kept, but the displayed cycle is what is filled;
@@ -343,8 +376,10 @@ void TestGeneration::specifiedDatesFillDisplayedCycle()
     bool seen = false;
     whenDialogOpens<RosteraSettings>([&seen](RosteraSettings *dialog) {
         seen = dialog->windowTitle() == "Auto Generate Specified Date Schedule"
+               && dialog->ui->label_from->text() == "Date from:" && dialog->ui->label_cycleDays->text() == "Cycle days:"
                && dialog->ui->dt_from->date() == kMonday && dialog->ui->ed_cycleDays->value() == 5
-               && dialog->ui->dt_from->displayFormat() == "M/d/yyyy" && dialog->ui->ed_cycleDays->maximum() == 999;
+               && dialog->ui->dt_from->displayFormat() == "M/d/yyyy" && dialog->ui->dt_from->calendarPopup()
+               && dialog->ui->ed_cycleDays->minimum() == 1 && dialog->ui->ed_cycleDays->maximum() == 999;
         dialog->ui->dt_from->setDate(QDate(2026, 3, 5));
         dialog->ui->ed_cycleDays->setValue(4);
         dialog->accept();
@@ -355,6 +390,8 @@ void TestGeneration::specifiedDatesFillDisplayedCycle()
     setOption("work week", "1,2,3,4,5,6,7");
     QVERIFY(seen);
     QCOMPARE(yes.texts(), QStringList({"Delete existing schedule?"}));
+    QCOMPARE(yes.buttons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    QCOMPARE(yes.defaultButton(), QMessageBox::Yes);
     const QStringList table = scheduleTable();
     QCOMPARE(table.size(), 6);
     QVERIFY(!table.contains("2026-03-05 G S old"));
@@ -374,6 +411,7 @@ void TestGeneration::specifiedDatesSaveFailure()
     QCOMPARE(ok.texts(), QStringList({"Save schedule information failed!"}));
     QCOMPARE(ok.titles(), QStringList({""}));
     QCOMPARE(ok.icon(), QMessageBox::Warning);
+    QCOMPARE(ok.buttons(), QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S keep"}));
 
     // Cancel in the dialog ends the command before any question.

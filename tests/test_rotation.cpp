@@ -2,6 +2,8 @@
 // the lookups of records in lists.
 #include "testhome.h"
 
+#include <random>
+
 #include "core/schedulelookup.h"
 #include "engine/enginecommon.h"
 #include "enginefixture.h"
@@ -23,7 +25,9 @@ private slots:
     void usedUpShareLeavesIndex();
     void laterPassesFollowShuffle();
     void extrasAreCounted();
+    void vacationAfterShareTestIsNoExtra();
     void scheduleLookups();
+    void lookupsAnswerAsLinearScans();
     void staffLookups();
 
 private:
@@ -95,6 +99,9 @@ void TestRotation::holidays_data()
     QTest::newRow("29 February, common year, 28th") << leap << QDate(2026, 2, 28) << false;
     QTest::newRow("29 February, common year, 1 March") << leap << QDate(2026, 3, 1) << false;
     QTest::newRow("29 February, the year after a leap year") << leap << QDate(2025, 3, 1) << false;
+    // Without the date this year, last year's span still counts.
+    QTest::newRow("29 February, long span into a common year")
+        << QVector<ASAttribute>{holiday("2024-02-29", 400, 1)} << QDate(2025, 3, 1) << true;
     ASAttribute oneDay = holiday("2026-05-01", 1, 1);
     oneDay.remove("days");
     QTest::newRow("days default to one") << QVector<ASAttribute>{oneDay} << QDate(2030, 5, 1) << true;
@@ -223,6 +230,21 @@ void TestRotation::extrasAreCounted()
     QCOMPARE(window->assignStats.attr("S_ass", QString()), QString("4"));
 }
 
+// The share test runs before the vacation test; an extra granted to a candidate who then
+// turns out to be away must not be counted for the next one.
+void TestRotation::vacationAfterShareTestIsNoExtra()
+{
+    makeRing({"A", "B"}, 1.5f);
+    copies[0].setAttr("S_ass", 1.0f);
+    window->assignStats.setAttr("S_ass", 2.0f);
+    window->vacations = {vacation("A", "2026-03-02", 1)};
+    int index = 0;
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 2), ring, index, 0, "S", 2), QString("B"));
+    QVERIFY(window->assignStats.attr("S_ovr", QString()).isEmpty());
+    QCOMPARE(window->getNextValidStaff(QDate(2026, 3, 3), ring, index, 1, "S", 2), QString("A"));
+    QCOMPARE(window->assignStats.attr("S_ovr", QString()), QString("1"));
+}
+
 void TestRotation::scheduleLookups()
 {
     QVector<ASAttribute> list{scheduleRecord("2026-03-02", "G", "S", "1"), scheduleRecord("2026-03-02", "G", "T", "2"),
@@ -271,6 +293,70 @@ void TestRotation::staffLookups()
     QCOMPARE(window->checkStaffExist(known, "H", "1"), -1);
     QCOMPARE(window->checkStaffExist(known, "G", "9"), -1);
     QCOMPARE(known.size(), 2);
+}
+
+// Generation and the check find records, vacations and dates through lookups made for speed;
+// over drawn data with repeated keys, odd ids and unreadable dates they must answer exactly as
+// the plain scans over the lists.
+void TestRotation::lookupsAnswerAsLinearScans()
+{
+    std::mt19937 draw(20260302);
+    const auto pick = [&draw](const QStringList &from) {
+        return from.at(std::uniform_int_distribution<int>(0, int(from.size()) - 1)(draw));
+    };
+    const QStringList ids{"1", "11", "21", "2", "", "A"};
+    const QStringList dateTexts{"2026-03-02", "2026-03-05", "2026-02-27", "2026-3-4", "soon", ""};
+    const QStringList dayCounts{"-1", "0", "1", "3", "9", "x", "missing"};
+
+    // A missing "days" is one day; an unreadable date covers nothing.
+    window->vacations = {vacation("1", "2026-03-02", 1), vacation("1", "soon", 9)};
+    window->vacations[0].remove("days");
+    QVERIFY(window->checkVacation(QDate(2026, 3, 2), "1"));
+    QVERIFY(!window->checkVacation(QDate(2026, 3, 3), "1"));
+
+    for (int round = 0; round < 20; ++round) {
+        window->vacations.clear();
+        for (int v = 0; v < 8; ++v) {
+            QStringList named;
+            for (int k = std::uniform_int_distribution<int>(1, 3)(draw); k > 0; --k)
+                named << pick(ids);
+            ASAttribute away = vacation(named.join(';'), pick(dateTexts), 1);
+            const QString days = pick(dayCounts);
+            if (days == "missing")
+                away.remove("days");
+            else
+                away.setAttr("days", days);
+            window->vacations << away;
+        }
+        const VacationIndex index(window->vacations);
+        for (const QString &id : ids + QStringList{"12", "1;1"}) {
+            for (const QDate &date : daysFrom(QDate(2026, 2, 25), 14))
+                QCOMPARE(index.covers(date, id), window->checkVacation(date, id));
+        }
+    }
+
+    for (const QString &text : dateTexts + QStringList{"2026-02-29", "2024-02-29"}) {
+        QCOMPARE(dateOf(text), QDate::fromString(text, "yyyy-MM-dd"));
+        QCOMPARE(dateOf(text), QDate::fromString(text, "yyyy-MM-dd"));
+    }
+
+    // The schedule index as generation uses it: look up, append what is missing, replace what
+    // is found by a record of the same key. The list starts with repeated keys.
+    const QStringList dates{"2026-03-02", "2026-03-03"}, groups{"G", "", "H"}, shifts{"S", "T"};
+    QVector<ASAttribute> list;
+    for (int i = 0; i < 6; ++i)
+        list << scheduleRecord(pick(dates), pick(groups), pick(shifts), QString::number(i));
+    ScheduleIndex index(list);
+    for (int step = 0; step < 200; ++step) {
+        const QString date = pick(dates), group = pick(groups), shiftname = pick(shifts);
+        int pos = -2;
+        getSchedule(date, group, shiftname, list, &pos);
+        QCOMPARE(index.find(date, group, shiftname), pos);
+        if (pos < 0)
+            index.append(newSchedule(date, group, shiftname));
+        else
+            list[pos].setAttr("staffs", QString::number(step));
+    }
 }
 
 ROSTERA_TEST_MAIN(TestRotation)

@@ -3,6 +3,8 @@
 #include "testhome.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
 #include <QSpinBox>
 #include <QTabWidget>
 
@@ -161,8 +163,28 @@ void TestStaffingRule::dialogStartsEmpty()
     QCOMPARE(dialog.getStuffNum(), QString("0;0;0;0;0;0;0"));
     QCOMPARE(dialog.getWeek(), QString());
     QCOMPARE(dialog.getDayweek(), QString());
+    QCOMPARE(dialog.ui->label_employees->text(), QString("Employees"));
+    const QStringList dayNames{"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
+    const QList<QLabel *> dayLabels{dialog.ui->label_day1, dialog.ui->label_day2, dialog.ui->label_day3,
+                                    dialog.ui->label_day4, dialog.ui->label_day5, dialog.ui->label_day6,
+                                    dialog.ui->label_day7};
     QCOMPARE(dialog.staffNumBoxes.size(), 7);
-    QCOMPARE(dialog.staffNumBoxes.first()->maximum(), 99);
+    for (int i = 0; i < 7; ++i) {
+        QCOMPARE(dayLabels.at(i)->text(), dayNames.at(i));
+        // The label stands beside its own box, so that Monday's number is the first of the value.
+        QCOMPARE(dialog.ui->layout_numbers->itemAtPosition(i, 1)->widget(), dialog.staffNumBoxes.at(i));
+        QCOMPARE(dialog.ui->layout_numbers->itemAtPosition(i, 0)->widget(), dayLabels.at(i));
+        QCOMPARE(dialog.staffNumBoxes.at(i)->minimum(), 0);
+        QCOMPARE(dialog.staffNumBoxes.at(i)->maximum(), 99);
+    }
+    QCOMPARE(dialog.ui->label_start->text(), QString("Start date"));
+    QCOMPARE(dialog.ui->label_end->text(), QString("End date"));
+    QCOMPARE(dialog.ui->group_week->title(), QString("Week"));
+    QCOMPARE(dialog.ui->group_dayweek->title(), QString("Day of week"));
+    QStringList weeks;
+    for (QCheckBox *box : dialog.weekBoxes)
+        weeks << box->text();
+    QCOMPARE(weeks, QStringList({"1", "2", "3", "4", "5"}));
 
     // Sunday is shown first but has the value 7; "M" has the value 1.
     QLayout *days = dialog.ui->group_dayweek->layout();
