@@ -40,6 +40,7 @@ private slots:
     void untouchedKeptRecordsNeedLockMode();
     void oneGroupViewLeavesOtherGroups();
     void groupsFormedByAdjacency();
+    void firstRunDrawsForEmployeesWithoutGroup();
     void lockedEmployeesComeFirst();
     void designatedEmployees();
     void questionBeforeGenerating();
@@ -243,7 +244,8 @@ void TestGeneration::oneGroupViewLeavesOtherGroups()
     QVERIFY(window->auto_schedule(window->cycleDates, true));
     QCOMPARE(scheduleTable(),
              QStringList({"2026-03-02  S old", "2026-03-02 G S old", "2026-03-02 H S B"}));
-    QCOMPARE(RandomScript::drawn(), 1);
+    // One draw for N in the empty first run, one for B.
+    QCOMPARE(RandomScript::drawn(), 2);
 
     // "<None>" in the one-employee view stands for the employees without a group.
     setView(window, 2);
@@ -276,6 +278,31 @@ void TestGeneration::groupsFormedByAdjacency()
     QCOMPARE(RandomScript::drawn(), 2);
     QCOMPARE(window->assignStats.attr("S", QString()), QString("2"));
     QCOMPARE(window->assignStats.attr("T", QString()), QString("2"));
+}
+
+// The first row taken closes an empty run under the empty group name: it writes nothing, but
+// its draws for the employees without a group come before those of the first real group.
+void TestGeneration::firstRunDrawsForEmployeesWithoutGroup()
+{
+    plan.staffs = {staff("N", ""), staff("A", "G"), staff("B", "G"), staff("C", "G")};
+    plan.rows = {standingRow("G", "S", "1;1;1;1;1;1;1")};
+    QVERIFY(writePlan(plan));
+    window->cycleDates = daysFrom(kMonday, 1);
+    // N's run takes the 2; G's run starts at r = 0 with the shuffle 1, 2, 0 and so picks B.
+    // Had G drawn the 2, r would be 2 and the pick A.
+    RandomScript::set({2, 0, 0});
+    QVERIFY(window->auto_schedule(window->cycleDates, true));
+    QCOMPARE(RandomScript::drawn(), 1 + 3);
+    QCOMPARE(window->shuffledStaff, QVector<int>({1, 2, 0}));
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S B"}));
+
+    // Without employees outside the groups the empty run draws nothing.
+    plan.staffs.removeFirst();
+    QVERIFY(writePlan(plan));
+    RandomScript::set({2, 0, 0});
+    QVERIFY(window->auto_schedule(window->cycleDates, true));
+    QCOMPARE(RandomScript::drawn(), 3);
+    QCOMPARE(scheduleTable(), QStringList({"2026-03-02 G S A"}));
 }
 
 // Pass 0 places the locked employees of all dates before any other pick, and each of them

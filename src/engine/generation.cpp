@@ -67,22 +67,25 @@ bool RosteraMain::auto_schedule(const QVector<QDate> &dates, bool deleteExisting
     db->holidayInfo(holidays, "valid=1");
     db->vacationInfo(vacations, "valid=1");
 
-    // Groups are runs of adjacent rows: a group whose rows are apart is scheduled twice.
+    // Groups are runs of adjacent rows: a group whose rows are apart is scheduled twice. The
+    // first row taken also closes a run, the empty one under the empty group name: it writes
+    // nothing, but it draws for the employees without a group, and so moves every later draw.
     QVector<ASAttribute> rows;
     QString current;
+    bool first = true;
     for (const ASAttribute &row : db->permanentSchedules) {
         const QString groupname = row.attr("groupname", QString());
         if (oneGroup && groupname != group)
             continue;
-        if (!rows.isEmpty() && groupname != current) {
+        if (first || groupname != current) {
             scheduleGroup(current, rows, keep, out, dates);
             rows.clear();
+            current = groupname;
+            first = false;
         }
-        current = groupname;
         rows.append(row);
     }
-    if (!rows.isEmpty())
-        scheduleGroup(current, rows, keep, out, dates);
+    scheduleGroup(current, rows, keep, out, dates);
     holidays.clear();
     vacations.clear();
 
