@@ -1,7 +1,6 @@
 // Times generation, check, repair and the grid refresh on a synthetic plan of 1,000 employees,
 // each beside a bare SQLite write or read of the same rows, and prints the medians.
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QSet>
 #include <QSettings>
@@ -9,17 +8,14 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <random>
-#include <unistd.h>
 
 #include "core/apppaths.h"
-#include "mainwindow/appstart.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
+#include "testhome.h"
 #include "ui_rosteramain.h"
 
 static const int kRuns = 5;
@@ -29,30 +25,6 @@ static const int kShifts = 6;
 static const int kShiftsPerGroup = 5;
 static const int kCycleDays = 31;
 static const QDate kFirstDay(2026, 3, 2);
-
-// HOME and the XDG folders in a fresh temporary folder, before the application object exists.
-static QString makeHome()
-{
-    char pattern[] = "/tmp/rostera-bench-XXXXXX";
-    const QByteArray home = mkdtemp(pattern);
-    setenv("HOME", home.constData(), 1);
-    setenv("XDG_DATA_HOME", (home + "/.local/share").constData(), 1);
-    setenv("XDG_CONFIG_HOME", (home + "/.config").constData(), 1);
-    setenv("XDG_CACHE_HOME", (home + "/.cache").constData(), 1);
-    setenv("XDG_RUNTIME_DIR", (home + "/run").constData(), 1);
-    QDir().mkpath(home + "/run");
-    QFile::setPermissions(home + "/run", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    return QString::fromLocal8Bit(home);
-}
-
-static ASAttribute record(const QList<QPair<QString, QString>> &values)
-{
-    ASAttribute r;
-    for (const auto &value : values)
-        r.setAttr(value.first, value.second);
-    return r;
-}
 
 static QString staffId(int i)
 {
@@ -207,10 +179,9 @@ static void report(QTextStream &out, const QString &what, double ms, double bare
 
 int main(int argc, char **argv)
 {
-    const QString home = makeHome();
-    setApplicationIdentity();
+    // A fresh temporary home, made before the application object, removed at the end.
+    TestHome home;
     QApplication app(argc, argv);
-    Q_INIT_RESOURCE(rostera);
     QTextStream out(stdout);
     if (!getDB()->openDB(QString()) || !writePlan()) {
         out << "could not write the plan\n";
@@ -242,7 +213,7 @@ int main(int argc, char **argv)
                .arg(kRuns);
     const double generation = median(generate);
     const QVector<QStringList> rows = storedRows();
-    const double insert = bareInsert(rows, home);
+    const double insert = bareInsert(rows, TestHome::path());
     const double select = bareSelect(dates);
     out << QString("Schedule rows written: %1\n").arg(rows.size());
     report(out, "generation with save", generation, insert, "insert", 1000);
@@ -264,6 +235,5 @@ int main(int argc, char **argv)
     out << QString("Faults reported by the check: %1\n").arg(faults.size());
     out.flush();
     getDB()->closeDB();
-    QDir(home).removeRecursively();
     return 0;
 }

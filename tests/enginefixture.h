@@ -15,19 +15,12 @@
 #include <memory>
 
 #include "core/apppaths.h"
+#include "testhome.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
 // Each test source includes "ui_rosteramain.h" itself, so that the form header is generated.
 #include "ui_rosteramain.h"
-
-inline ASAttribute record(const QList<QPair<QString, QString>> &values)
-{
-    ASAttribute r;
-    for (const auto &value : values)
-        r.setAttr(value.first, value.second);
-    return r;
-}
 
 inline ASAttribute staff(const QString &id, const QString &group)
 {

@@ -24,14 +24,6 @@ private:
     QVector<ASAttribute> load(const QString &name, QStringList fields) const;
 };
 
-static ASAttribute record(std::initializer_list<std::pair<QString, QString>> values)
-{
-    ASAttribute r;
-    for (const auto &v : values)
-        r.setAttr(v.first, v.second);
-    return r;
-}
-
 void TestCsv::writeRaw(const QString &name, const QByteArray &bytes) const
 {
     QFile file(path(name));

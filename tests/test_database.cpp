@@ -68,14 +68,6 @@ Csv readTemplate(const QString &name)
     return csv;
 }
 
-ASAttribute record(std::initializer_list<std::pair<const char *, QString>> values)
-{
-    ASAttribute r;
-    for (const auto &value : values)
-        r.setAttr(value.first, value.second);
-    return r;
-}
-
 QStringList keyValues(const QVector<ASAttribute> &records, const char *key)
 {
     QStringList result;

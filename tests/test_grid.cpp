@@ -15,14 +15,6 @@
 #include "ui_rosteramain.h"
 #include "ui_toolbar.h"
 
-static ASAttribute record(const QList<QPair<QString, QString>> &values)
-{
-    ASAttribute r;
-    for (const auto &value : values)
-        r.setAttr(value.first, value.second);
-    return r;
-}
-
 static void setOptions(int showFromWeek, int cycleDays, const QString &workWeek, bool lockSchedule = false)
 {
     QSettings settings(getAppDataPath(0), QSettings::IniFormat);

@@ -31,14 +31,6 @@ private slots:
     void sortManyEqualKeys();
 };
 
-static ASAttribute record(std::initializer_list<std::pair<QString, QString>> values)
-{
-    ASAttribute r;
-    for (const auto &v : values)
-        r.setAttr(v.first, v.second);
-    return r;
-}
-
 static QStringList column(const QVector<ASAttribute> &records, const QString &key)
 {
     QStringList out;

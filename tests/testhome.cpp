@@ -69,3 +69,11 @@ void BoxAnswer::poll()
             QMetaObject::invokeMethod(box, "reject", Qt::QueuedConnection);
     }
 }
+
+ASAttribute record(std::initializer_list<std::pair<QString, QString>> values)
+{
+    ASAttribute r;
+    for (const auto &value : values)
+        r.setAttr(value.first, value.second);
+    return r;
+}

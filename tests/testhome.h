@@ -8,6 +8,11 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <initializer_list>
+#include <utility>
+
+#include "core/asattribute.h"
+
 // Gives the test program a home of its own: HOME and the XDG folders point into a fresh
 // temporary folder before the application object exists, so no real user data is touched.
 // The application identity is the program's, so the data location has the program's layout.
@@ -18,6 +23,9 @@ public:
     ~TestHome();
     static QString path();
 };
+
+// A record of the given keys and values, for building test data.
+ASAttribute record(std::initializer_list<std::pair<QString, QString>> values);
 
 // While it lives, answers every message box that comes up with the given button
 // (or the box's default button when it has no such button) and keeps their words.
