@@ -15,7 +15,7 @@
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
-#include "testhome.h"
+#include "fixture.h"
 #include "ui_rosteramain.h"
 
 static const int kRuns = 5;

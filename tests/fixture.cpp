@@ -1,0 +1,198 @@
+#include "fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QSettings>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+#include <cstdlib>
+#include <unistd.h>
+
+#include "core/apppaths.h"
+#include "mainwindow/appstart.h"
+#include "mainwindow/rosteramain.h"
+#include "mainwindow/toolbar.h"
+#include "persistence/databasefunc.h"
+#include "ui_rosteramain.h"
+
+static QString g_home;
+
+TestHome::TestHome()
+{
+    char pattern[] = "/tmp/rostera-test-XXXXXX";
+    g_home = QString::fromLocal8Bit(mkdtemp(pattern));
+    const QByteArray home = g_home.toLocal8Bit();
+    setenv("HOME", home, 1);
+    for (const char *name : {"XDG_DATA_HOME=/.local/share", "XDG_CONFIG_HOME=/.config", "XDG_CACHE_HOME=/.cache",
+                             "XDG_RUNTIME_DIR=/run", "TMPDIR=/tmp"}) {
+        const QList<QByteArray> pair = QByteArray(name).split('=');
+        QDir().mkpath(home + pair[1]);
+        setenv(pair[0], home + pair[1], 1);
+    }
+    QFile::setPermissions(g_home + "/run", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setApplicationIdentity();
+    Q_INIT_RESOURCE(rostera);
+}
+
+TestHome::~TestHome()
+{
+    QDir(g_home).removeRecursively();
+}
+
+QString TestHome::path()
+{
+    return g_home;
+}
+
+ASAttribute record(std::initializer_list<std::pair<QString, QString>> values)
+{
+    ASAttribute r;
+    for (const auto &value : values)
+        r.setAttr(value.first, value.second);
+    return r;
+}
+
+// Field names and defaults of each kind of a plan's text; "=" takes the first field's value.
+static const QMap<QString, QList<std::pair<QString, QString>>> kPlanFields = {
+    {"group", {{"name", ""}, {"abbreviation", "="}}},
+    {"shift", {{"name", ""}, {"abbreviation", "="}, {"starttm", "08:00"}, {"endtm", "16:00"}}},
+    {"staff", {{"id", ""}, {"groupname", ""}, {"fname", ""}, {"lname", ""}}},
+    {"row", {{"groupname", ""}, {"shiftname", ""}, {"daystaffnum", ""}, {"employee_name", ""}}},
+    {"holiday", {{"date", ""}, {"days", "1"}, {"repeat", "0"}, {"valid", "1"}, {"name", "h="}}},
+    {"vacation", {{"staffids", ""}, {"date", ""}, {"days", "1"}, {"valid", "1"}}},
+    {"lock", {{"staffids", ""}, {"date", ""}, {"valid", "1"}, {"shiftname", ""}}},
+    {"schedule", {{"date", ""}, {"groupname", ""}, {"shiftname", ""}, {"staffs", ""}}},
+};
+
+QVector<ASAttribute> planRecords(const QString &kind, const QString &items)
+{
+    const auto fields = kPlanFields.value(kind);
+    QVector<ASAttribute> list;
+    for (const QString &item : items.split(' ', Qt::SkipEmptyParts)) {
+        const QStringList values = item.split('/');
+        ASAttribute r;
+        for (int i = 0; i < fields.size(); ++i) {
+            QString value = values.value(i, fields[i].second);
+            if (i >= values.size() && value.endsWith('='))
+                value.chop(1), value += values.value(0);
+            r.setAttr(fields[i].first, value);
+        }
+        list << r;
+    }
+    return list;
+}
+
+bool writePlan(const QString &plan)
+{
+    QMap<QString, QVector<ASAttribute>> kinds{{"group", planRecords("group", "G H")},
+                                              {"shift", planRecords("shift", "S T")}};
+    for (const QString &section : plan.split('|', Qt::SkipEmptyParts)) {
+        const QString text = section.trimmed();
+        const QString kind = text.section(' ', 0, 0);
+        kinds[kind] = planRecords(kind, text.section(' ', 1));
+    }
+    DatabaseFunc *db = getDB();
+    QString error;
+    return db->saveGroupInfo(kinds["group"], error) && db->saveStaffInfo(kinds["staff"])
+           && db->saveShiftInfo(kinds["shift"]) && db->savePermanentSchedule(kinds["row"])
+           && db->saveHolidayInfo(kinds["holiday"]) && db->saveVacationInfo(kinds["vacation"])
+           && db->saveLockEmployeeInfo(kinds["lock"]) && db->deleteSchedule("1=1")
+           && db->saveSchedule(kinds["schedule"]);
+}
+
+QList<QStringList> rows(const QString &sql)
+{
+    QSqlQuery query(getDB()->db);
+    if (!query.exec(sql))
+        return {{"query failed: " + sql}};
+    QList<QStringList> result;
+    while (query.next()) {
+        QStringList row;
+        for (int i = 0; i < query.record().count(); ++i)
+            row << query.value(i).toString();
+        result << row;
+    }
+    return result;
+}
+
+QStringList scheduleTable()
+{
+    QStringList lines;
+    for (const QStringList &row : rows("select date,groupname,shiftname,staffs from t_schedule order by 1,2,3"))
+        lines << row.join(' ');
+    return lines;
+}
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+void setOption(const QString &key, const QVariant &value)
+{
+    QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("Options/" + key, value);
+}
+
+QVector<QDate> daysFrom(const QDate &first, int count)
+{
+    QVector<QDate> dates;
+    for (int i = 0; i < count; ++i)
+        dates << first.addDays(i);
+    return dates;
+}
+
+static QVector<int> g_draws;
+static int g_drawn = 0;
+void scriptDraws(const QVector<int> &values) { g_draws = values, g_drawn = 0; }
+int scriptedDraw() { return g_draws.value(g_drawn++, 0); }
+int drawsTaken() { return g_drawn; }
+
+Boxes::Boxes(QList<QMessageBox::StandardButton> answers, QMessageBox::StandardButton rest)
+    : m_answers(answers), m_rest(rest)
+{
+    connect(&m_timer, &QTimer::timeout, this, &Boxes::poll);
+    m_timer.start(20);
+}
+
+void Boxes::poll()
+{
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        auto *box = qobject_cast<QMessageBox *>(w);
+        if (!box || !box->isVisible() || m_seen.contains(box))
+            continue;
+        m_seen.append(box);
+        texts << box->text();
+        titles << box->windowTitle();
+        defaults << (box->defaultButton() ? box->standardButton(box->defaultButton()) : QMessageBox::NoButton);
+        icons << box->icon();
+        buttons << box->standardButtons();
+        QAbstractButton *target = box->button(m_answers.value(texts.size() - 1, m_rest));
+        if (!target)
+            target = box->defaultButton();
+        if (target)
+            QMetaObject::invokeMethod(target, "click", Qt::QueuedConnection);
+        else
+            QMetaObject::invokeMethod(box, "reject", Qt::QueuedConnection);
+    }
+}
+
+RosteraMain *openWindow()
+{
+    if (!getDB()->isOpen() && !getDB()->openDB(QString()))
+        return nullptr;
+    auto *window = new RosteraMain;
+    window->randomNumber = scriptedDraw;
+    window->show();
+    return QTest::qWaitForWindowExposed(window) ? window : nullptr;
+}
+
+void setView(RosteraMain *window, int personType, const QString &group)
+{
+    window->toolBar->setPersonType(personType);
+    window->refreshGroupCmb();
+    window->ui->cmb_group->setCurrentIndex(group.isEmpty() ? 0 : window->ui->cmb_group->findText(group));
+}

@@ -1,0 +1,111 @@
+#pragma once
+
+// The one fixture of every test program: a temporary home, plans written from a short text,
+// the schedule table as text, scripted chance, message boxes and dialogs answered by timer,
+// and the main window over the default database.
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+#include <initializer_list>
+#include <utility>
+
+#include "core/asattribute.h"
+
+class RosteraMain;
+
+// HOME and the XDG folders point into a fresh temporary folder before the application object
+// exists, so no real user data is touched; removed again at exit.
+class TestHome
+{
+public:
+    TestHome();
+    ~TestHome();
+    static QString path();
+};
+
+ASAttribute record(std::initializer_list<std::pair<QString, QString>> values);
+
+// Replaces every table of the open file with a plan given as text: sections split by "|",
+// each a kind and its records split by blanks, the fields of a record split by "/", e.g.
+//   "staff A/G B/G N/ | row G/S/1;1;1;1;1;1;1 | schedule 2026-03-02/G/S/A;B"
+// Fields per kind (left out at the end: the default in brackets):
+//   group name/abbreviation(name)      shift name/abbreviation(name)/starttm(08:00)/endtm(16:00)
+//   staff id/groupname/fname/lname     row groupname/shiftname/daystaffnum/employee_name
+//   holiday date/days(1)/repeat(0)/valid(1)/name(h+date)   vacation staffids/date/days/valid(1)
+//   lock staffids/date/valid(1)/shiftname                 schedule date/groupname/shiftname/staffs
+// Without a group or shift section the groups are G and H, the shifts S and T.
+bool writePlan(const QString &plan);
+// The records of a kind as writePlan reads them (for saving such records by other ways).
+QVector<ASAttribute> planRecords(const QString &kind, const QString &items);
+
+// t_schedule as "date group shift staffs" lines in key order.
+QStringList scheduleTable();
+// Rows of a statement on the open file, each value as text; a failing statement gives one row
+// that names it.
+QList<QStringList> rows(const QString &sql);
+bool writeFile(const QString &path, const QByteArray &content);
+// Sets "Options/<key>" in the configuration file.
+void setOption(const QString &key, const QVariant &value);
+QVector<QDate> daysFrom(const QDate &first, int count);
+
+// A scripted source for RosteraMain::randomNumber; draws beyond the script give 0.
+void scriptDraws(const QVector<int> &values);
+int scriptedDraw();
+int drawsTaken();
+
+// While it lives, answers each message box in turn with the next of the given buttons, then
+// with `rest` (or the box's default button where it has no such button), and keeps its words.
+class Boxes : public QObject
+{
+public:
+    explicit Boxes(QList<QMessageBox::StandardButton> answers = {},
+                   QMessageBox::StandardButton rest = QMessageBox::Ok);
+    QStringList texts, titles;
+    QList<QMessageBox::StandardButton> defaults;
+    QList<QMessageBox::Icon> icons;
+    QList<QMessageBox::StandardButtons> buttons;
+
+private:
+    void poll();
+    QList<QMessageBox::StandardButton> m_answers;
+    QMessageBox::StandardButton m_rest;
+    QList<QPointer<QMessageBox>> m_seen;
+    QTimer m_timer;
+};
+
+// Runs action on the first visible dialog of type T once it is open (for modal dialogs).
+template <typename T>
+void whenDialogOpens(const std::function<void(T *)> &action)
+{
+    auto *timer = new QTimer;
+    QObject::connect(timer, &QTimer::timeout, [timer, action] {
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (auto *dialog = qobject_cast<T *>(widget); dialog && dialog->isVisible()) {
+                timer->deleteLater();
+                timer->stop();
+                action(dialog);
+                return;
+            }
+    });
+    timer->start(20);
+}
+
+// The main window over the default database, shown, with scripted chance.
+RosteraMain *openWindow();
+// View All (0), One Group (1) or One Employee (2), the group box on group ("" is "<None>").
+void setView(RosteraMain *window, int personType, const QString &group = QString());
+
+#define ROSTERA_TEST_MAIN(TestObject)         \
+    int main(int argc, char **argv)           \
+    {                                         \
+        TestHome home;                        \
+        QApplication app(argc, argv);         \
+        TestObject tc;                        \
+        QTEST_SET_MAIN_SOURCE_PATH            \
+        return QTest::qExec(&tc, argc, argv); \
+    }
