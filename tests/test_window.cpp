@@ -16,10 +16,7 @@
 #include "ui_rosteramain.h"
 #include "ui_toolbar.h"
 
-static QSettings config()
-{
-    return {getAppDataPath(0), QSettings::IniFormat};
-}
+static QSettings config() { return {getAppDataPath(0), QSettings::IniFormat}; }
 
 // The grid as text: per row its label ("+" when two lines high) and " column=text" for each
 // cell that has an item, a cell's lines joined by "/"; rows joined by "; ".
@@ -126,25 +123,22 @@ private slots:
     // Whatever the file holds, a number comes out, and the menu checks the entry at that place.
     void languageMenu()
     {
-        for (const QString &row : {"|0|action_lan_system", "language=4|4|action_lan_ja", "language=10|10|action_lan_tw",
-                                   "language=11|11|", "language=-1|-1|", "language=german|0|action_lan_system",
-                                   "language=2.5|0|action_lan_system"}) {
+        for (const QString &row : {"|0|action_lan_system", "language=10|10|action_lan_tw", "language=11|11|",
+                                   "language=-1|-1|", "language=2.5|0|action_lan_system"}) {
             const QStringList f = row.split('|');
             QVERIFY(writeFile(getAppDataPath(0), "[General]\n" + f[0].toUtf8() + "\n"));
             QCOMPARE(::storedLanguage(), f[1].toInt());
             delete window;
             window = new RosteraMain;
-            QStringList checked;
-            for (QAction *action : window->ui->menuLanguage->actions())
-                if (action->isChecked())
-                    checked << action->objectName();
-            QCOMPARE(checked.join(""), f[2]);
+            const QActionGroup *group = window->ui->action_lan_de->actionGroup();
+            QCOMPARE(group->checkedAction() ? group->checkedAction()->objectName() : "", f[2]);
         }
         Boxes boxes;
         window->ui->action_lan_de->trigger();
-        window->ui->action_lan_de->trigger(); // the stored choice again: no message
+        window->ui->action_lan_de->trigger(); // the stored choice again: no message, still checked
+        QVERIFY(window->ui->action_lan_de->isChecked());
         window->ui->action_lan_tw->trigger();
-        QVERIFY(!window->ui->action_lan_de->isChecked() && window->ui->action_lan_tw->isChecked());
+        QCOMPARE(window->ui->action_lan_de->actionGroup()->checkedAction(), window->ui->action_lan_tw);
         QCOMPARE(config().value("language").toInt(), 10);
         QCOMPARE(boxes.texts, QStringList(2, "Language change will take effect after the restart of the software."));
         QCOMPARE(boxes.icons.value(0), QMessageBox::Information);
@@ -160,14 +154,11 @@ private slots:
         window->ui->actionOpen_Database->trigger();
         // The dialog starts where the last database lies.
         QCOMPARE(dialog, (QStringList{"Open Database", "DB File(*.db)", getAppDataPath(1)}));
-        QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(","), QString("Rostera-second Solo--Z1"));
-        QCOMPARE(window->ui->cmb_group->count(), 2);
-        QCOMPARE(config().value("lastdb").toString(), second);
+        QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(",") + " " + config().value("lastdb").toString(),
+                 "Rostera-second Solo--Z1 " + second);
 
         // A path longer than the database library takes does not open: the previous file stays.
-        QString folder = TestHome::path();
-        for (char c : {'a', 'b', 'c'})
-            folder += "/" + QString(200, QChar(c));
+        const QString folder = TestHome::path() + "/" + QStringList(3, QString(200, 'a')).join('/');
         QVERIFY(QDir().mkpath(folder) && QFile::copy(defaultDb, folder + "/plan.db"));
         answerFileDialog(folder + "/plan.db", &dialog);
         window->ui->actionOpen_Database->trigger();
@@ -182,9 +173,9 @@ private slots:
         QCOMPARE(getDB()->getDBName(), second);
         answerFileDialog(getAppDataPath(1) + "/my.copy.db", &dialog);
         window->ui->actionSave_Database->trigger();
-        QCOMPARE(config().value("lastdb").toString(), getAppDataPath(1) + "/my.copy.db");
         // The title stops at the first dot.
-        QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(","), QString("Rostera-my Solo--Z1"));
+        QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(",") + " " + config().value("lastdb").toString(),
+                 "Rostera-my Solo--Z1 " + getAppDataPath(1) + "/my.copy.db");
         QCOMPARE(boxes.texts.size(), 3);
     }
 
@@ -248,18 +239,17 @@ private slots:
         window->ui->date_current->setDate({2025, 3, f[3].toInt()});
         window->on_refresh_schedule();
         QStringList days;
-        for (const QDate &date : window->cycleDates)
-            days << date.toString(date.month() == 3 ? "dd" : "MM-dd");
-        QCOMPARE(days.join(" "), dates);
         QTableWidget *table = window->ui->tableWidget;
         QCOMPARE(table->columnCount(), window->cycleDates.size());
         for (int column = 0; column < table->columnCount(); ++column) {
             const QDate date = window->cycleDates.at(column);
+            days << date.toString(date.month() == 3 ? "dd" : "MM-dd");
             QCOMPARE(table->horizontalHeaderItem(column)->text(),
                      date.toString("MM/dd/yyyy\n") + QLocale::c().dayName(date.dayOfWeek(), QLocale::ShortFormat));
             QCOMPARE(table->horizontalHeaderItem(column)->foreground().color(),
                      column == marked ? QColor(255, 0, 0) : QColor(Qt::black));
         }
+        QCOMPARE(days.join(" "), dates);
     }
 
     void cells_data()
@@ -364,8 +354,7 @@ private slots:
         getDB()->groups.removeFirst();
         window->settingsChange();
         getDB()->groups = groups;
-        QCOMPARE(window->ui->cmb_group->currentIndex(), 0);
-        QCOMPARE(window->rowLabels, QStringList{"N1"});
+        QCOMPARE(window->ui->cmb_group->currentText() + " " + window->rowLabels.join(","), QString("<None> N1"));
         window->settingsChange();
         show(0, 2, "Alpha", "A1");
         getDB()->staffs.insert(1, record({{"id", "A0"}, {"groupname", "Alpha"}}));
@@ -389,8 +378,10 @@ private slots:
         QCOMPARE(table->columnWidth(0), (500 - table->verticalHeader()->width()) / 2);
         // A longer cycle gives the last column of the old count and every new one 100 pixels, and
         // the user's widths stay after that, also over runs of the program.
+        const int first = table->columnWidth(0);
         setOption("cycle days", 14);
         window->on_refresh_schedule();
+        QCOMPARE(table->columnWidth(0), first);
         for (int column = 1; column < 14; ++column)
             QCOMPARE(table->columnWidth(column), 100);
         table->setColumnWidth(2, 61);
@@ -405,10 +396,9 @@ private slots:
     // Last: the translators stay for the rest of the run.
     void translators()
     {
-        for (const QString code : {"de", "es", "fr", "ja", "pl", "ru", "zh_cn", "zh_tw"})
-            QVERIFY2(QTranslator().load(":/qt_" + code + ".qm", ".", "", "") && QFile::exists(":/rostera_" + code + ".qm"),
+        for (const QString code : {"de", "es", "fr", "it", "ja", "pl", "ru", "zh_cn", "zh_tw"})
+            QVERIFY2(QFile::exists(":/rostera_" + code + ".qm") && QFile::exists(":/qt_" + code + ".qm") == (code != "it"),
                      qPrintable(code));
-        QVERIFY(QFile::exists(":/rostera_it.qm") && !QFile::exists(":/qt_it.qm"));
         installTranslators("");
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
         installTranslators("de");
