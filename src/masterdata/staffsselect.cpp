@@ -31,7 +31,6 @@ void StaffsSelect::setData(const QString &current, int mode, const QString &grou
     const QString filter = QString("groupname='%1'").arg(group);
     const bool all = group == "-1";
     QVector<ASAttribute> records;
-    QString valueKey = "id";
     if (mode == 0 && all)
         records = db->staffs;
     else if (mode == 0)
@@ -42,10 +41,7 @@ void StaffsSelect::setData(const QString &current, int mode, const QString &grou
         db->permanentSchedule(records, filter);
     else if (mode == 2)
         records = db->shifts;
-    if (mode == 1)
-        valueKey = "shiftname";
-    else if (mode == 2)
-        valueKey = "name";
+    const QString valueKey = mode == 1 ? "shiftname" : mode == 2 ? "name" : "id";
 
     const QStringList chosen = current.split(lineFeed ? "\n" : ";", Qt::SkipEmptyParts);
     for (const ASAttribute &record : records) {
