@@ -33,7 +33,12 @@ static QString message(const QString &code)
 }
 // Lets t_schedule refuse an INSERT, UPDATE or DELETE, or hides a table named "t_..."; mend() undoes either.
 static void breakFile(const QString &f) { if (!f.isEmpty()) rows(f.startsWith("t_") ? "ALTER TABLE " + f + " RENAME TO moved_" + f : "CREATE TRIGGER refuse BEFORE " + f + " ON t_schedule BEGIN SELECT RAISE(FAIL, 'no'); END"); }
-static void mend() { rows("DROP TRIGGER IF EXISTS refuse"), rows("ALTER TABLE moved_t_schedule RENAME TO t_schedule"), rows("ALTER TABLE moved_t_permanentschedule RENAME TO t_permanentschedule"); }
+static void mend()
+{
+    for (const char *sql : {"DROP TRIGGER IF EXISTS refuse", "ALTER TABLE moved_t_schedule RENAME TO t_schedule",
+                            "ALTER TABLE moved_t_permanentschedule RENAME TO t_permanentschedule"})
+        rows(sql);
+}
 class TestScheduleEdits : public QObject
 {
     Q_OBJECT
@@ -41,12 +46,12 @@ class TestScheduleEdits : public QObject
     Ui_ScheduleStatus *panel() { return window->statusPanel->ui; }
 private slots:
     void initTestCase() { QVERIFY((window = openWindow())); rows("PRAGMA synchronous=OFF"); }
-    void init() { setView(window, 0), window->holidays.clear(), window->vacations.clear(), window->tipText.clear(); }
+    void init() { setView(window, 0); window->holidays.clear(); window->vacations.clear(); window->tipText.clear(); }
     // Cell (0, col) over Monday 2, Saturday 7, holiday Wednesday 4 March; row "1": employee 1 of G by employee, "G/S": S of G by schedule.
     void adjust_data()
     {
-        QTest::addColumn<QString>("row"), QTest::addColumn<int>("col"), QTest::addColumn<QString>("stored"), QTest::addColumn<QString>("cell"), QTest::addColumn<QString>("value");
-        QTest::addColumn<bool>("commit"), QTest::addColumn<bool>("answer"), QTest::addColumn<QString>("tip"), QTest::addColumn<QString>("after"), QTest::addColumn<QString>("fault");
+        QTest::addColumn<QString>("row"); QTest::addColumn<int>("col"); QTest::addColumn<QString>("stored"); QTest::addColumn<QString>("cell"); QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("commit"); QTest::addColumn<bool>("answer"); QTest::addColumn<QString>("tip"); QTest::addColumn<QString>("after"); QTest::addColumn<QString>("fault");
         QTest::newRow("room on a Saturday") << "1" << 1 << "" << "" << "T" << false << true << "" << "" << "";
         QTest::newRow("already in the record") << "1" << 0 << "02/G/S/1;2;3" << "" << "S" << false << true << "" << "" << "";
         QTest::newRow("enough") << "1" << 0 << "02/G/S/2;3" << "" << "S" << false << true << kEnough << "" << "";
@@ -75,16 +80,16 @@ private slots:
         QFETCH(QString, row); QFETCH(int, col); QFETCH(QString, stored); QFETCH(QString, cell); QFETCH(QString, value);
         QFETCH(bool, commit); QFETCH(bool, answer); QFETCH(QString, tip); QFETCH(QString, after); QFETCH(QString, fault);
         QVERIFY(writeMarch(kPlan + " | holiday 2026-03-04", stored));
-        window->toolBar->setViewType(row.contains('/')), window->cycleDates = {QDate(2026, 3, 2), QDate(2026, 3, 7), QDate(2026, 3, 4)};
+        window->toolBar->setViewType(row.contains('/')); window->cycleDates = {QDate(2026, 3, 2), QDate(2026, 3, 7), QDate(2026, 3, 4)};
         window->gridRows = {row.contains('/') ? record({{"groupname", row.section('/', 0, 0)}, {"shiftname", row.section('/', 1)}}) : record({{"id", row}, {"groupname", "G"}})};
-        window->ui->tableWidget->setRowCount(1), window->ui->tableWidget->setColumnCount(3), window->ui->tableWidget->model()->setData(window->ui->tableWidget->model()->index(0, col), cell, Qt::UserRole);
+        window->ui->tableWidget->setRowCount(1); window->ui->tableWidget->setColumnCount(3); window->ui->tableWidget->model()->setData(window->ui->tableWidget->model()->index(0, col), cell, Qt::UserRole);
         breakFile(fault); const bool answered = window->adjustScheduleCommit(0, col, value, commit);
         mend(); QCOMPARE(answered, answer); QCOMPARE(window->tipText, tip); QCOMPARE(march(), commit ? after : stored);
     }
     void check_data()
     {
-        QTest::addColumn<QString>("extra"), QTest::addColumn<QString>("stored"), QTest::addColumn<QString>("days"), QTest::addColumn<QString>("group"),
-            QTest::addColumn<bool>("repair"), QTest::addColumn<QString>("messages"), QTest::addColumn<QString>("after");
+        QTest::addColumn<QString>("extra"); QTest::addColumn<QString>("stored"); QTest::addColumn<QString>("days"); QTest::addColumn<QString>("group");
+            QTest::addColumn<bool>("repair"); QTest::addColumn<QString>("messages"); QTest::addColumn<QString>("after");
         QTest::newRow("every fault") << "| vacation 2/2026-03-03" << "02//S/5;6 02/G/S/9;1 02/G/T/1 02/G/U/9 03/G/S/2;3;1 03/G/T/3 07/G/S/1 07/G/T/2" << "02 03 07" << "" << false
                                      << "F 02 <None> S 1 2 more,F 03 <None> S 1 0 less,F 07 <None> S 1 0 less,A 02 G S 9,B 03 G S 2,F 03 G S 2 3 more,D 07 G S,C 02 G T 1,C 03 G T 3" << "";
         QTest::newRow("holiday, that alone") << "| holiday 2026-03-02" << "02/G/S/5;5" << "02" << "" << false << "E 02 G S" << "";
@@ -98,7 +103,7 @@ private slots:
     {
         QFETCH(QString, extra); QFETCH(QString, stored); QFETCH(QString, days); QFETCH(QString, group); QFETCH(bool, repair); QFETCH(QString, messages); QFETCH(QString, after);
         QVERIFY(writeMarch(kPlan + extra, stored));
-        QStringList expected; setView(window, group.isEmpty() ? 0 : 1, group), window->cycleDates.clear();
+        QStringList expected; setView(window, group.isEmpty() ? 0 : 1, group); window->cycleDates.clear();
         for (const QString &day : days.split(' ')) window->cycleDates << QDate(2026, 3, day.toInt());
         for (const QString &code : messages.split(',', Qt::SkipEmptyParts)) expected << message(code);
         QCOMPARE(window->checkSchedule(repair), expected); QCOMPARE(march(), repair ? after : stored);
@@ -109,7 +114,7 @@ private slots:
         // Each day 9 is unknown and, without 9, one short. Check mode stops at ten messages, here within the record of the 11th.
         const QString days = "02/G/T/1;9 03/G/T/1;9 04/G/T/1;9 05/G/T/1;9 06/G/T/1;9 07/G/T/1;9 08/G/T/1;9 09/G/T/1;9 10/G/T/1;9 11/G/T/1;9;x 12/G/T/1;9";
         QVERIFY(writeMarch("staff 1/G 2/G 3/G | row G/T/2;2;2;2;2;2;2", days));
-        window->cycleDates = daysFrom(QDate(2026, 3, 2), 11), panel()->btn_checkSchedule->click();
+        window->cycleDates = daysFrom(QDate(2026, 3, 2), 11); panel()->btn_checkSchedule->click();
         QCOMPARE(panel()->schedule_textTip->text(), message("A 02 G T 9")); QCOMPARE(panel()->schedule_textTip->toolTip().split("\r\n").mid(9), QStringList{message("A 11 G T 9")});
         QCOMPARE(panel()->schedule_iconTip->text(), "<img src=':/res/error.ico'/>");
         Boxes boxes({Box::Cancel, Box::Yes, Box::Ok, Box::No}); panel()->btn_repairSchedule->click(), breakFile("UPDATE"), panel()->btn_repairSchedule->click(), mend();
@@ -126,7 +131,7 @@ private slots:
     void tipAtCell()
     {
         const auto tip = [] { for (QWidget *w : QApplication::topLevelWidgets()) if (w->inherits("QTipLabel") && w->isVisible()) return w->pos(); return QPoint(); };
-        QTableWidget *table = window->ui->tableWidget; table->setRowCount(2), table->setColumnCount(2), table->setRowHeight(1, 60), window->show_tip(1, 1, "here");
+        QTableWidget *table = window->ui->tableWidget; table->setRowCount(2); table->setColumnCount(2); table->setRowHeight(1, 60); window->show_tip(1, 1, "here");
         QTRY_COMPARE(QToolTip::text(), "here");
         const QPoint shown = tip(); QToolTip::hideText(); QTRY_COMPARE(tip(), QPoint());
         QToolTip::showText(table->mapToGlobal(QPoint(table->columnViewportPosition(1), table->rowViewportPosition(1) + 60)), "here"); QCOMPARE(tip(), shown);
@@ -134,8 +139,8 @@ private slots:
     // Copies (days > 0) and clears of kSpread by days of March; answers to the first question and to any later one.
     void copyClear_data()
     {
-        QTest::addColumn<QString>("group"), QTest::addColumn<int>("from"), QTest::addColumn<int>("to"), QTest::addColumn<int>("days"),
-            QTest::addColumn<QString>("answers"), QTest::addColumn<QString>("asked"), QTest::addColumn<QString>("after"), QTest::addColumn<QString>("fault");
+        QTest::addColumn<QString>("group"); QTest::addColumn<int>("from"); QTest::addColumn<int>("to"); QTest::addColumn<int>("days");
+            QTest::addColumn<QString>("answers"); QTest::addColumn<QString>("asked"); QTest::addColumn<QString>("after"); QTest::addColumn<QString>("fault");
         QTest::newRow("right after") << "" << 2 << 9 << 7 << "Y" << kReplace << "02/H/S/h 08/G/S/b 09/H/S/h 15/G/S/b 16/G/S/e" << "";
         QTest::newRow("backwards, right before") << "" << 9 << 2 << 7 << "Y" << kReplace << "02/G/S/c 03/H/S/d 09/G/S/c 10/H/S/d 16/G/S/e" << "";
         // Overlapping spans end the copy without a word.
@@ -161,17 +166,17 @@ private slots:
     {
         QVERIFY(writeMarch("", kSpread)); Boxes boxes({Box::Yes, Box::Ok, Box::Yes, Box::No}, Box::Yes);
         // The previous cycle counts calendar days: five dates from Monday 9 copy the five days from Wednesday 4 on.
-        setOption("cycle days", 5), window->cycleDates = daysFrom(QDate(2026, 3, 9), 5), window->on_copyPreCycle_schedule(), setOption("cycle days", 7);
+        setOption("cycle days", 5); window->cycleDates = daysFrom(QDate(2026, 3, 9), 5); window->on_copyPreCycle_schedule(); setOption("cycle days", 7);
         QCOMPARE(march(), "02/H/S/h 08/G/S/b 13/G/S/b 16/G/S/e");
         // Both dialogs refuse a to date three days back, staying open, and then take the span they propose.
         bool stayed = true; const auto refuseThenTake = [&stayed](QDialog *d, QDateEdit *to) { const QDate date = to->date(); to->setDate(date.addDays(-3));
             d->accept(), stayed &= d->isVisible(), to->setDate(date), d->accept(); if (d->isVisible()) d->reject(), stayed = false; };
         whenDialogOpens<CopyScheduleSettings>([&](CopyScheduleSettings *d) { refuseThenTake(d, d->ui->dt_copyTo); });
-        window->cycleDates = daysFrom(QDate(2026, 3, 11), 3), window->on_copySpecifiedCycle_schedule();
+        window->cycleDates = daysFrom(QDate(2026, 3, 11), 3); window->on_copySpecifiedCycle_schedule();
         QCOMPARE(march(), "02/H/S/h 08/G/S/b 11/G/S/b 16/G/S/e");
-        window->cycleDates = daysFrom(QDate(2026, 3, 9), 7), window->on_clear_schedule();
+        window->cycleDates = daysFrom(QDate(2026, 3, 9), 7); window->on_clear_schedule();
         whenDialogOpens<ClearScheduleSettings>([&](ClearScheduleSettings *d) { refuseThenTake(d, d->ui->dt_to); });
-        window->cycleDates = {QDate(2026, 3, 11)}, window->on_clear_date_schedule();
+        window->cycleDates = {QDate(2026, 3, 11)}; window->on_clear_date_schedule();
         QVERIFY(stayed); QCOMPARE(march(), "02/H/S/h 08/G/S/b 16/G/S/e");
         QCOMPARE(boxes.texts, QStringList({kReplace, "There has overlapping day between from and to dates", kReplace, clearing(9, 15), "To date can't before from date", clearing(11, 11)}));
     }
