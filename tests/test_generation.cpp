@@ -148,15 +148,14 @@ private slots:
             window->cycleDates = i < 4 ? daysFrom(kMonday.addDays(2), 7) : daysFrom(kMonday, 2);
             setOption("work week", i < 4 ? "3" : "1,2,3,4,5,6,7");
             if (i < 4)
-                whenDialogOpens<RosteraSettings>([i](RosteraSettings *dialog) { i ? dialog->accept() : dialog->reject(); });
+                whenDialogOpens<RosteraSettings>([i, &after](RosteraSettings *dialog) { i ? dialog->accept() : dialog->reject(); after << QString("%1 days").arg(dialog->cycleDays); });
             i < 4 ? window->on_auto_date_schedule() : window->on_auto_schedule();
             after << table().remove(" G S");
         }
-        QCOMPARE(after, QStringList({"02 x,04 y,11 w", "02 x,04 y,11 w", "02 x,04 y,05 A,09 A,10 A,11 w", "02 x,05 A,09 A,10 A,11 w",
-                                     "02 x,05 A,09 A,10 A,11 w", "02 x,03 A,05 A,09 A,10 A,11 w", "02 A,03 A,05 A,09 A,10 A,11 w"}));
+        QCOMPARE(after, QStringList({"0 days", "02 x,04 y,11 w", "7 days", "02 x,04 y,11 w", "7 days", "02 x,04 y,05 A,09 A,10 A,11 w", "7 days",
+                                     "02 x,05 A,09 A,10 A,11 w", "02 x,05 A,09 A,10 A,11 w", "02 x,03 A,05 A,09 A,10 A,11 w", "02 A,03 A,05 A,09 A,10 A,11 w"}));
         QCOMPARE(window->ui->tableWidget->item(0, 0)->text() + window->ui->tableWidget->item(0, 1)->text(), QString("SS"));
-        const QString question = "Delete existing schedule?";
-        QCOMPARE(boxes.texts, QStringList({question, question, question, "Save schedule information failed!", question, question, question}));
+        QCOMPARE(boxes.texts, QStringList(3, "Delete existing schedule?") << "Save schedule information failed!" << QStringList(3, "Delete existing schedule?"));
         QCOMPARE(boxes.titles, QStringList(7, QString()));
         QCOMPARE(boxes.buttons.mid(2, 2), QList<QMessageBox::StandardButtons>({QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Ok}));
         QCOMPARE(boxes.defaults.first(), QMessageBox::Yes);
@@ -167,9 +166,10 @@ private slots:
         dialog.setWeek("2"); // boxes not named stay as they are; numbers that name no box are left out
         dialog.setData("<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5;0;9;x' dayweek='7;1;8'/>");
         QCOMPARE(dialog.getData(), record({{"t", "1"}, {"sdt", "2026-03-01"}, {"edt", "2026-03-31"}, {"week", "2;5"}, {"dayweek", "1;7"}}).getXmlAttrs("dt"));
-        // A plain value comes back in the rule form; empty items count here, unlike in the demand; seven are read.
-        dialog.setData("2;;3;1;1;1;1;9");
+        dialog.setData("2;;3;1;1;1;1;9"); // back in the rule form; empty items count here, unlike in the demand; seven are read
         QCOMPARE(dialog.getData(), record({{"t", "0"}, {"stn", "2;0;3;1;1;1;1"}}).getXmlAttrs("dt"));
+        dates.setData("<dt t='1'/>"); // a new rule runs from today for five years
+        QCOMPARE(dates.getData(), record({{"t", "1"}, {"sdt", QDate::currentDate().toString(Qt::ISODate)}, {"edt", QDate::currentDate().addYears(5).toString(Qt::ISODate)}, {"week", ""}, {"dayweek", ""}}).getXmlAttrs("dt"));
         // Only the specified-date tab is checked, in this order, staying open after a refusal.
         Boxes boxes;
         QString results;
