@@ -118,6 +118,15 @@ QList<QStringList> rows(const QString &sql)
     return result;
 }
 
+QString show(const QVector<ASAttribute> &records)
+{
+    QStringList out;
+    for (const ASAttribute &r : records)
+        for (auto it = r.values().cbegin(); it != r.values().cend(); ++it)
+            out << (it == r.values().cbegin() ? "| " : "") + it.key() + "=" + it.value();
+    return out.join(' ').mid(2);
+}
+
 QStringList scheduleTable()
 {
     QStringList lines;

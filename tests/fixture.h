@@ -43,6 +43,8 @@ bool writePlan(const QString &plan);
 // The records of a kind as writePlan reads them (for saving such records by other ways).
 QVector<ASAttribute> planRecords(const QString &kind, const QString &items);
 
+// Records as "key=value key=value | key=value ..." in key order.
+QString show(const QVector<ASAttribute> &records);
 // t_schedule as "date group shift staffs" lines in key order.
 QStringList scheduleTable();
 // Rows of a statement on the open file, each value as text; a failing statement gives one row

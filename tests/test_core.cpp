@@ -7,14 +7,6 @@
 #include "fixture.h"
 #include "persistence/databasefunc.h"
 
-static QString show(const QVector<ASAttribute> &records) // as "key=value key=value | ..." in key order
-{
-    QStringList out;
-    for (const ASAttribute &r : records)
-        for (auto it = r.values().cbegin(); it != r.values().cend(); ++it)
-            out << (it == r.values().cbegin() ? "| " : "") + it.key() + "=" + it.value();
-    return out.join(' ').mid(2);
-}
 class TestCore : public QObject
 {
     Q_OBJECT

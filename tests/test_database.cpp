@@ -25,14 +25,6 @@ static QString lastDb() { return QSettings(getAppDataPath(3) + "/ConfigData/conf
 static QByteArray content(const QString &path) { QFile file(path); return file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable"; }
 static QString lines(const QString &sql) { QStringList out; for (const QStringList &row : rows(sql)) out << row.join(','); return out.join(" | "); }
 static ASAttribute parse(const QString &text) { ASAttribute r; for (const QString &pair : text.split(' ', Qt::SkipEmptyParts)) r.setAttr(pair.section('=', 0, 0), pair.section('=', 1)); return r; } // from "key=value ..."
-static QString show(const QVector<ASAttribute> &records) // as "key=value ... | ..." in key order
-{
-    QStringList out;
-    for (const ASAttribute &r : records)
-        for (auto it = r.values().cbegin(); it != r.values().cend(); ++it)
-            out << (it == r.values().cbegin() ? "| " : "") + it.key() + "=" + it.value();
-    return out.join(' ').mid(2);
-}
 static QString saveAndRead(const QString &kind, QVector<ASAttribute> list) // whether a save of one kind went through, and the plain read then
 {
     DatabaseFunc *db = getDB();
