@@ -1,6 +1,7 @@
 #include "fixture.h"
 
 #include <QDir>
+#include <QFileDialog>
 #include <QFile>
 #include <QPushButton>
 #include <QSettings>
@@ -187,6 +188,20 @@ void Boxes::poll()
         else
             QMetaObject::invokeMethod(box, "reject", Qt::QueuedConnection);
     }
+}
+
+void answerFileDialog(const QString &file, QStringList *seen)
+{
+    whenDialogOpens<QFileDialog>([file, seen](QFileDialog *dialog) {
+        *seen = QStringList{dialog->windowTitle(), dialog->nameFilters().join(","), dialog->directory().path()};
+        // The file name is not replaced while its editor has the focus.
+        if (QWidget *focus = dialog->focusWidget())
+            focus->clearFocus();
+        dialog->selectFile(file);
+        QMetaObject::invokeMethod(dialog, "accept");
+        if (dialog->isVisible()) // refused: fail the test rather than hang it
+            dialog->reject();
+    });
 }
 
 RosteraMain *openWindow()

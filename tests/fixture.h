@@ -97,6 +97,9 @@ void whenDialogOpens(const std::function<void(T *)> &action)
     timer->start(20);
 }
 
+// Answers the next file dialog with a file; keeps its caption, filters and folder in *seen.
+void answerFileDialog(const QString &file, QStringList *seen);
+
 // The main window over the default database, shown, with scripted chance.
 RosteraMain *openWindow();
 // View All (0), One Group (1) or One Employee (2), the group box on group ("" is "<None>").

@@ -5,6 +5,7 @@
 #include "engine/rosterasettings.h"
 #include "engine/workdateassign.h"
 #include "mainwindow/rosteramain.h"
+#include "mainwindow/toolbar.h"
 #include "ui_rosteramain.h"
 
 static const QDate kMonday(2026, 3, 2);
@@ -145,14 +146,17 @@ private slots:
         Boxes boxes({QMessageBox::Cancel, QMessageBox::No, QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::No, QMessageBox::Yes});
         QStringList after;
         for (int i = 0; i < 7; ++i) {
+            window->toolBar->setViewType(i < 4);
             window->cycleDates = i < 4 ? daysFrom(kMonday.addDays(2), 7) : daysFrom(kMonday, 2);
             setOption("work week", i < 4 ? "3" : "1,2,3,4,5,6,7");
             if (i < 4)
                 whenDialogOpens<RosteraSettings>([i, &after](RosteraSettings *dialog) { i ? dialog->accept() : dialog->reject(); after << QString("%1 days").arg(dialog->cycleDays); });
             i < 4 ? window->on_auto_date_schedule() : window->on_auto_schedule();
             after << table().remove(" G S");
+            if (i == 2) // the grid, by schedule here, shows what was written
+                after << window->ui->tableWidget->model()->index(0, 1).data().toString() + " on " + window->cycleDates.value(1).toString("MM-dd");
         }
-        QCOMPARE(after, QStringList({"0 days", "02 x,04 y,11 w", "7 days", "02 x,04 y,11 w", "7 days", "02 x,04 y,05 A,09 A,10 A,11 w", "7 days",
+        QCOMPARE(after, QStringList({"0 days", "02 x,04 y,11 w", "7 days", "02 x,04 y,11 w", "7 days", "02 x,04 y,05 A,09 A,10 A,11 w", "w on 03-11", "7 days",
                                      "02 x,05 A,09 A,10 A,11 w", "02 x,05 A,09 A,10 A,11 w", "02 x,03 A,05 A,09 A,10 A,11 w", "02 A,03 A,05 A,09 A,10 A,11 w"}));
         QCOMPARE(window->ui->tableWidget->item(0, 0)->text() + window->ui->tableWidget->item(0, 1)->text(), QString("SS"));
         QCOMPARE(boxes.texts, QStringList(3, "Delete existing schedule?") << "Save schedule information failed!" << QStringList(3, "Delete existing schedule?"));
