@@ -11,6 +11,7 @@
 
 #include "core/appinfo.h"
 #include "core/apppaths.h"
+#include "masterdata/settings.h"
 #include "persistence/databasefunc.h"
 #include "ui_rosteramain.h"
 
@@ -96,3 +97,20 @@ void RosteraMain::on_action_About_triggered()
                        "<p>" + name + "<br><br>" + maker + "<br><br>" + "\n\n" + tr("Version") + ": "
                            + QCoreApplication::applicationVersion() + "<br><br>" + "</p>");
 }
+
+// However the dialog ends, the options are written and the window rebuilt from the cached lists.
+void RosteraMain::openSettings(int tab)
+{
+    Settings settings(this);
+    settings.selSettings(tab);
+    settings.exec();
+    settings.saveOptions();
+    settingsChange();
+}
+
+void RosteraMain::on_actionGroup_Settings_triggered() { openSettings(0); }
+void RosteraMain::on_actionStaff_Settings_triggered() { openSettings(1); }
+void RosteraMain::on_actionShift_Settings_triggered() { openSettings(2); }
+void RosteraMain::on_actionPermanentSchedule_Settings_triggered() { openSettings(3); }
+void RosteraMain::on_actionHoliday_Settings_triggered() { openSettings(4); }
+void RosteraMain::on_actionOptions_Settings_triggered() { openSettings(5); }

@@ -108,6 +108,7 @@ public:
     void on_actionViewType();
     void on_select_language();
     void on_showtip();
+    void openSettings(int tab);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -120,6 +121,13 @@ public slots:
     void on_action_Help_triggered();
     void on_action_Website_triggered();
     void on_action_About_triggered();
+    // The Settings dialog at one of its tabs; the grid follows once it has closed.
+    void on_actionGroup_Settings_triggered();
+    void on_actionStaff_Settings_triggered();
+    void on_actionShift_Settings_triggered();
+    void on_actionPermanentSchedule_Settings_triggered();
+    void on_actionHoliday_Settings_triggered();
+    void on_actionOptions_Settings_triggered();
     void on_date_current_dateChanged(const QDate &date);
     void on_cmb_person_currentIndexChanged(int index);
     void on_cmb_group_currentIndexChanged(int index);
