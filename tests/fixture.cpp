@@ -190,10 +190,11 @@ void Boxes::poll()
     }
 }
 
-void answerFileDialog(const QString &file, QStringList *seen)
+void answerFileDialog(const QString &file, QStringList *seen, const std::function<void()> &after)
 {
-    whenDialogOpens<QFileDialog>([file, seen](QFileDialog *dialog) {
-        *seen = QStringList{dialog->windowTitle(), dialog->nameFilters().join(","), dialog->directory().path()};
+    whenDialogOpens<QFileDialog>([file, seen, after](QFileDialog *dialog) {
+        if (seen)
+            *seen = QStringList{dialog->windowTitle(), dialog->nameFilters().join(","), dialog->directory().path()};
         // The file name is not replaced while its editor has the focus.
         if (QWidget *focus = dialog->focusWidget())
             focus->clearFocus();
@@ -201,6 +202,8 @@ void answerFileDialog(const QString &file, QStringList *seen)
         QMetaObject::invokeMethod(dialog, "accept");
         if (dialog->isVisible()) // refused: fail the test rather than hang it
             dialog->reject();
+        else if (after)
+            after();
     });
 }
 

@@ -97,8 +97,9 @@ void whenDialogOpens(const std::function<void(T *)> &action)
     timer->start(20);
 }
 
-// Answers the next file dialog with a file; keeps its caption, filters and folder in *seen.
-void answerFileDialog(const QString &file, QStringList *seen);
+// Answers the next file dialog with a file, keeps its caption, filters and folder in *seen, then
+// runs after (which may spoil the file).
+void answerFileDialog(const QString &file, QStringList *seen = nullptr, const std::function<void()> &after = {});
 
 // The main window over the default database, shown, with scripted chance.
 RosteraMain *openWindow();

@@ -162,29 +162,6 @@ private slots:
         QTEST(picker.getData(true) + " " + picker.getData(false), "data");
         QCOMPARE(changed.count(), 0); // loading emits nothing
     }
-
-    // As a popup the picker follows every tick and emits the texts.
-    void pickerAsPopup()
-    {
-        QVERIFY(writePlan("shift Early/E Late/L"));
-        StaffsSelect picker(nullptr, false, false);
-        picker.setWindowFlags(Qt::Popup);
-        picker.setData("", 2, "-1", 0);
-        QSignalSpy changed(&picker, &StaffsSelect::staffChanged);
-        picker.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&picker));
-        for (int i : {1, 0}) {
-            const QRect rect = picker.ui->lst_staffs->visualItemRect(picker.ui->lst_staffs->item(i));
-            QTest::mouseClick(picker.ui->lst_staffs->viewport(), Qt::LeftButton, {}, {rect.left() + 10, rect.center().y()});
-        }
-        StaffsSelect single(&picker, true, false);
-        single.setData("", 2, "-1", 0);
-        connect(&single, &StaffsSelect::staffChanged, &picker, &StaffsSelect::staffChanged);
-        single.ui->lst_staffs->setCurrentRow(1);
-        QCOMPARE(changed.count(), 3);
-        QCOMPARE(changed.value(1).first().toString() + " " + picker.getData(true) + " " + changed.value(2).first().toString(),
-                 QString("E;L Early;Late L"));
-    }
 };
 
 ROSTERA_TEST_MAIN(TestEditing)

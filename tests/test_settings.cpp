@@ -8,6 +8,7 @@
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "masterdata/settings.h"
+#include "masterdata/workweekselect.h"
 #include "ui_rosteramain.h"
 #include "ui_settings.h"
 #include "ui_toolbar.h"
@@ -116,6 +117,29 @@ private slots:
         QCOMPARE(words, QStringList({"Shifts/Abbreviation/Shift/hidden", "Customers/Cust ID/Customer/shown"}));
         QVERIFY(!window->ui->statusBar->isVisible());
         QCOMPARE(window->rowLabels, QStringList({"S", "T"}));
+    }
+
+    // The 24-hour box reads the shifts again, dropping a row not saved; the work-week button takes
+    // the picker's days when it is accepted.
+    void optionControls()
+    {
+        QFile::remove(getAppDataPath(0));
+        Settings dialog;
+        dialog.selSettings(5);
+        dialog.show();
+        QTest::mouseClick(dialog.ui->btn_shiftAdd, Qt::LeftButton);
+        QTest::mouseClick(dialog.ui->ck_use24hour, Qt::LeftButton, {}, QPoint(5, dialog.ui->ck_use24hour->height() / 2));
+        QCOMPARE(dialog.ui->shiftTable->rowCount(), 2);
+        QCOMPARE(dialog.ui->shiftTable->item(0, 2)->text(), QString("08:00"));
+        for (int answer : {QDialog::Accepted, QDialog::Rejected}) {
+            whenDialogOpens<WorkWeekSelect>([answer](WorkWeekSelect *picker) {
+                picker->findChild<QCheckBox *>("ck_1")->click();
+                picker->findChild<QCheckBox *>("ck_7")->click();
+                picker->done(answer);
+            });
+            QTest::mouseClick(dialog.ui->btn_workWeek, Qt::LeftButton);
+        }
+        QCOMPARE(dialog.ui->btn_workWeek->text(), QString("2,3,4,5,6"));
     }
 
     void ruleDescription_data()

@@ -146,6 +146,47 @@ private slots:
         QVERIFY(boxes.titles.join("").isEmpty() && boxes.icons.count(QMessageBox::Warning) == boxes.icons.size());
     }
 
+    // Each list to a file of its columns and back: an import replaces the list; "valid" that is no
+    // number unticks, and without the column an item is ticked and stored in force.
+    void exchange_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("after"); // the items, then the table after Save
+        QTest::newRow("holiday") << "holiday" << "name,date,days,repeat,valid" << "name,date,repeat,valid\r\nX,2026-05-01,1,yes\r\nY,2026-06-01,0,1\r\n"
+                                 << "05-01 X,2026-06-01 Y+ X/2026-05-01/1/0/1 Y/2026-06-01/1/1/0";
+        QTest::newRow("vacation") << "vacation" << "staffids,date,days,valid,note" << "date,staffids\r\n2026-05-01,A;B\r\n"
+                                  << "2026-05-01 A;B+ A;B/2026-05-01/1//1";
+        QTest::newRow("lock") << "lock" << "staffids,date,valid,note" << "note,staffids,date,valid\nn,A,2026-05-01,0\n"
+                              << "2026-05-01 A A/2026-05-01//n/0";
+    }
+    void exchange()
+    {
+        QFETCH(QString, kind);
+        QVERIFY(writePlan("staff A/G | holiday 2026-12-25/1/1 | vacation A/2026-03-02/3 | lock A/2026-03-04"));
+        Settings dialog;
+        dialog.show();
+        const auto press = [&](const QString &button) {
+            QTest::mouseClick(dialog.findChild<QPushButton *>("btn_" + button + "_" + kind), Qt::LeftButton);
+        };
+        const QString path = TestHome::path() + "/" + kind + ".csv";
+        QFile::remove(path);
+        answerFileDialog(path);
+        press("export");
+        QFile exported(path);
+        QVERIFY(exported.open(QIODevice::ReadOnly));
+        QTEST(QString(exported.readLine()).trimmed(), "header");
+        QFETCH(QString, file);
+        QVERIFY(writeFile(path, file.toUtf8()));
+        answerFileDialog(path);
+        press("import");
+        press("save");
+        const QString name = kind == "holiday" ? "t_holidayinfo" : kind == "vacation" ? "t_vacationinfo" : "t_lock_employee";
+        QTEST(items(dialog.findChild<QListWidget *>(kind == "holiday" ? "lst_holidays" : kind == "vacation" ? "lst_vacations" : "lst_lock"))
+                  + " " + table(name), "after");
+    }
+
     void workWeek()
     {
         WorkWeekSelect picker;

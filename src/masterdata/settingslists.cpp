@@ -25,6 +25,8 @@ static void addItems(Settings *dialog, QListWidget *list, QVector<ASAttribute> &
         auto *item = new QListWidgetItem;
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         (dialog->*update)(item, record);
+        // The record keeps what the item shows: an imported one without "valid" is in force.
+        record.setAttr("valid", item->checkState() == Qt::Checked ? 1 : 0);
         list->addItem(item);
     }
 }
