@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>Feiertagseinstellungen</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Anzahl Tage:</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Jährlich wiederholen</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Gültig</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>Bitte geben Sie einen Namen ein.</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>Einstellungen für feste Arbeitstage</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Mitarbeiter:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Bemerkung:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Gültig</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>Die Datenbank konnte nicht aktualisiert werden!</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>Bitte wählen Sie einen Mitarbeiter aus.</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ vom %1 bis %2 wirklich löschen?</translation>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>Regelbesetzungen</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Feiertage</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>Allgemeine Feiertage</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>Urlaub der Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>Dienstplan immer anzeigen ab</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>Dienstplanzeitraum:</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> Tage</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Arbeitstage der Woche</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>24-Stunden-Format verwenden</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>Mitarbeiter fest an den Dienstplan binden</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>Feste Arbeitstage von Mitarbeitern</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>Kunden</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>Kunden-Nr.</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>CSV-Datei (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>Der Export ist fehlgeschlagen!</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>Der Import ist fehlgeschlagen!</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>Der Inhalt ist leer!</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>Das Speichern ist fehlgeschlagen!</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Keine&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>Vorname</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>Nachname</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Telefonnummer</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>Zugewiesener Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Dienstplan</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>180</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>Gruppe X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ vom %1 bis %2 wirklich löschen?</translation>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>Dienstplan für einen bestimmten Zeitraum löschen</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>Urlaubseinstellungen</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Mitarbeiter:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Anzahl Tage:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Bemerkung:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Gültig</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ vom %1 bis %2 wirklich löschen?</translation>
     <message>
         <source>Please select a day of week.</source>
         <translation>Bitte wählen Sie einen Wochentag aus.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Arbeitstage der Woche</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>Bitte wählen Sie mindestens einen Tag aus.</translation>
     </message>
 </context>
 </TS>

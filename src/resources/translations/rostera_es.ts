@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>Configuración de días festivos</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Número de días:</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repetir cada año</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Válido</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>Introduzca un nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>Configuración de días de trabajo fijos</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Empleados:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Nota:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Válido</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>¡No se pudo actualizar la base de datos!</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>Seleccione un empleado.</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ del %1 al %2?</translation>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Empleados</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Turnos</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>Horarios base</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Días festivos</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>Días festivos generales</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>Vacaciones de los empleados</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>Mostrar siempre el horario a partir del</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunes</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martes</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Miércoles</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jueves</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Viernes</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sábado</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domingo</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>Período del horario:</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> días</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Días laborables de la semana</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>Usar formato de 24 horas</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>Fijar los empleados al horario</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>Días de trabajo fijos de los empleados</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>Clientes</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>ID de cliente</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Abreviatura</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Turno</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>Archivo CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>¡No se pudo exportar!</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>¡No se pudo importar!</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>¡El contenido está vacío!</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>¡No se pudo guardar!</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Ninguno&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>Apellido</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Hora de inicio</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Hora de fin</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>Empleado designado</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Horario</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>Grupo X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ del %1 al %2?</translation>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>Borrar el horario de un período específico</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>Configuración de vacaciones</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Empleados:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Número de días:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Nota:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Válido</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ del %1 al %2?</translation>
     <message>
         <source>Please select a day of week.</source>
         <translation>Seleccione un día de la semana.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Días laborables de la semana</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunes</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martes</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Miércoles</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jueves</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Viernes</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sábado</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domingo</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>Seleccione al menos un día.</translation>
     </message>
 </context>
 </TS>

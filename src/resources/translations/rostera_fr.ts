@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>Paramètres des jours fériés</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Nombre de jours&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Répéter chaque année</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Valide</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>Veuillez saisir un nom.</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>Paramètres des jours de travail fixes</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Employés&#xa0;:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Remarque&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Valide</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>Échec de la mise à jour de la base de données&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>Veuillez sélectionner un employé.</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ du %1 au %2&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groupes</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Employés</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Postes</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>Plannings types</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Jours fériés</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>Jours fériés communs</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>Congés des employés</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>Toujours afficher le planning à partir du</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lundi</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Mardi</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercredi</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jeudi</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Vendredi</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samedi</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Dimanche</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>Période du planning&#xa0;:</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> jours</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Jours de travail de la semaine</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>Utiliser le format 24&#xa0;heures</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>Lier les employés au planning</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>Jours de travail fixes des employés</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>Clients</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>N° client</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Abréviation</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Poste</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>Fichier CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>Échec de l&apos;exportation&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>Échec de l&apos;importation&#xa0;!</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>Le contenu est vide&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>Échec de l&apos;enregistrement&#xa0;!</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Aucun&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>Prénom</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Numéro de téléphone</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Heure de début</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Heure de fin</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>Employé désigné</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Planning</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>Groupe X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ du %1 au %2&#xa0;?</translation>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>Effacer le planning d&apos;une période donnée</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>Paramètres des congés</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Employés&#xa0;:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Nombre de jours&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Remarque&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Valide</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ du %1 au %2&#xa0;?</translation>
     <message>
         <source>Please select a day of week.</source>
         <translation>Veuillez sélectionner un jour de la semaine.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Jours de travail de la semaine</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lundi</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Mardi</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercredi</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jeudi</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Vendredi</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samedi</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Dimanche</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>Veuillez sélectionner au moins un jour.</translation>
     </message>
 </context>
 </TS>

@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>Impostazioni festività</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Numero di giorni:</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Ripeti ogni anno</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Valido</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>Inserire un nome.</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>Impostazioni giorni di lavoro fissi</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Dipendenti:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Nota:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Valido</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>Impossibile aggiornare il database!</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>Selezionare un dipendente.</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ dal %1 al %2?</translation>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppi</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Esporta</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Dipendenti</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Turni</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>Pianificazioni base</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Festività</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>Festività generali</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>Ferie dei dipendenti</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>Mostra sempre la pianificazione a partire da</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunedì</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martedì</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercoledì</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Giovedì</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Venerdì</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sabato</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domenica</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>Periodo della pianificazione:</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> giorni</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Giorni lavorativi della settimana</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>Usa il formato 24 ore</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>Vincola i dipendenti alla pianificazione</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>Giorni di lavoro fissi dei dipendenti</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>Clienti</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>Codice cliente</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Abbreviazione</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Turno</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>File CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>Impossibile esportare!</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>Impossibile importare!</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>Il contenuto è vuoto!</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>Impossibile salvare!</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Nessuno&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>Cognome</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppo</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Numero di telefono</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Ora di inizio</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Ora di fine</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>Dipendente designato</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Pianificazione</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>Gruppo X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ dal %1 al %2?</translation>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>Cancella la pianificazione di un periodo specifico</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>Impostazioni ferie</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Dipendenti:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Numero di giorni:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Nota:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Valido</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ dal %1 al %2?</translation>
     <message>
         <source>Please select a day of week.</source>
         <translation>Selezionare un giorno della settimana.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Giorni lavorativi della settimana</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunedì</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martedì</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercoledì</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Giovedì</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Venerdì</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sabato</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domenica</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>Selezionare almeno un giorno.</translation>
     </message>
 </context>
 </TS>

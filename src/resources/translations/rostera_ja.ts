@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>休日の設定</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日付：</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>日数：</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>毎年繰り返す</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>名称を入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>勤務日固定の設定</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>従業員：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日付：</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>備考：</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有効</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>データベースを更新できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>従業員を選択してください。</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>従業員</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>シフト</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>基本勤務表</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>休日</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>固定休日</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>従業員の休暇</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>勤務表の表示開始曜日を固定</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>火曜日</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>水曜日</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>木曜日</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>金曜日</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>土曜日</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>日曜日</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>勤務表の期間：</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> 日</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>勤務する曜日</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>24 時間形式を使用</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>従業員を勤務表に固定</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>従業員の勤務日固定</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>顧客</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>顧客 ID</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>略称</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>顧客</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>シフト</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>CSV ファイル (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>エクスポートできませんでした。</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>インポートできませんでした。</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>内容が空です。</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;なし&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>名</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>姓</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>電話番号</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>開始時刻</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>終了時刻</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>所要時間</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>指定従業員</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>勤務表</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>グループ X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ from %1 to %2?</source>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>指定期間の勤務表をクリア</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>休暇の設定</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>従業員：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日付：</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>日数：</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>備考：</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有効</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ from %1 to %2?</source>
     <message>
         <source>Please select a day of week.</source>
         <translation>曜日を選択してください。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>勤務する曜日</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>火曜日</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>水曜日</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>木曜日</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>金曜日</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>土曜日</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>日曜日</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>曜日を 1 つ以上選択してください。</translation>
     </message>
 </context>
 </TS>

@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>Ustawienia świąt</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nazwa:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Liczba dni:</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Powtarzaj co roku</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Obowiązuje</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>Wprowadź nazwę.</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>Ustawienia stałych dni pracy</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Pracownicy:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Uwagi:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Obowiązuje</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>Nie udało się zaktualizować bazy danych!</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>Wybierz pracownika.</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ od %1 do %2?</translation>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupy</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importuj</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Eksportuj</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Pracownicy</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Zmiany</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>Grafiki stałe</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Święta</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>Święta stałe</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edytuj</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>Urlopy pracowników</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>Zawsze pokazuj grafik od dnia</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Poniedziałek</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Wtorek</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Środa</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Czwartek</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Piątek</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sobota</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Niedziela</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>Okres grafiku:</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> dni</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Dni robocze tygodnia</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>Używaj formatu 24-godzinnego</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>Przypisuj pracowników na stałe do grafiku</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>Stałe dni pracy pracowników</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>Klienci</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>ID klienta</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Skrót</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Klient</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Zmiana</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>Plik CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>Nie udało się wyeksportować!</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>Nie udało się zaimportować!</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>Zawartość jest pusta!</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>Nie udało się zapisać!</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Brak&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Uwagi</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>Imię</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>Nazwisko</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupa</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Numer telefonu</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Godzina rozpoczęcia</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Godzina zakończenia</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Czas trwania</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>Wyznaczony pracownik</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>Grupa X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ od %1 do %2?</translation>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>Wyczyść grafik dla wybranego okresu</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>Ustawienia urlopów</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Pracownicy:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Liczba dni:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Uwagi:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Obowiązuje</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ od %1 do %2?</translation>
     <message>
         <source>Please select a day of week.</source>
         <translation>Wybierz dzień tygodnia.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Dni robocze tygodnia</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Poniedziałek</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Wtorek</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Środa</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Czwartek</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Piątek</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sobota</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Niedziela</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>Wybierz co najmniej jeden dzień.</translation>
     </message>
 </context>
 </TS>

@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>Настройка праздников</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Название:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Дата:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Количество дней:</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Повторять ежегодно</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Действует</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>Введите название.</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>Настройка закрепления сотрудников</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Сотрудники:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Дата:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Примечание:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Действует</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>Не удалось обновить базу данных!</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>Выберите сотрудника.</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Группы</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Сотрудники</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Смены</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>Постоянные графики</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>Праздники</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>Постоянные праздники</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>Отпуска сотрудников</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>Всегда показывать график, начиная с дня</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Понедельник</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Вторник</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Среда</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Четверг</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Пятница</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Суббота</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Воскресенье</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>Период графика:</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> дн.</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Рабочие дни недели</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>Использовать 24-часовой формат</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>Закреплять сотрудников за графиком</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>Закрепленные рабочие дни сотрудников</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>Клиенты</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>Код клиента</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>Сокращение</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Клиент</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Смена</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>Файл CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>Не удалось выполнить экспорт!</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>Не удалось выполнить импорт!</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>Содержимое пусто!</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>Не удалось сохранить!</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Нет&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>Фамилия</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>Номер телефона</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Время начала</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Время окончания</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Продолжительность</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>Назначенный сотрудник</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>График</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>180</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>Группа X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ from %1 to %2?</source>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>Очистить график за указанный период</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>Настройка отпусков</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>Сотрудники:</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Дата:</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>Количество дней:</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>Примечание:</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Действует</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ from %1 to %2?</source>
     <message>
         <source>Please select a day of week.</source>
         <translation>Выберите день недели.</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>Рабочие дни недели</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Понедельник</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Вторник</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Среда</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Четверг</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Пятница</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Суббота</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Воскресенье</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>Выберите хотя бы один день.</translation>
     </message>
 </context>
 </TS>

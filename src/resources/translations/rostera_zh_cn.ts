@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>节假日设置</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>天数：</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>每年重复</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>请输入名称。</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>锁定员工设置</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>员工：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>备注：</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>数据库更新失败！</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>请选择员工。</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>组别</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>员工</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>班次</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>固定排班</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>节假日</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>固定节假日</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>员工休假</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>排班表始终起始于</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>排班周期：</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> 天</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>每周工作日</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>使用 24 小时制</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>员工锁定排班</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>锁定员工上班日期</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>客户</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>客户编号</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>简称</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>客户</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>班次</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>CSV 文件 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>导出失败！</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>导入失败！</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>内容为空！</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>保存失败！</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;无&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>名</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>姓</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组别</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>电话号码</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>结束时间</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>指定员工</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>排班表</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>组别 X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ from %1 to %2?</source>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>清除指定日期范围的排班表</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>休假设置</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>员工：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>天数：</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>备注：</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ from %1 to %2?</source>
     <message>
         <source>Please select a day of week.</source>
         <translation>请选择星期几。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>每周工作日</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>请至少选择一天。</translation>
     </message>
 </context>
 </TS>

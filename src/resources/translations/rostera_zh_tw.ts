@@ -44,6 +44,64 @@
     </message>
 </context>
 <context>
+    <name>HolidaySettings</name>
+    <message>
+        <source>Holiday Settings</source>
+        <translation>假日設定</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名稱：</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>天數：</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>每年重複</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效</translation>
+    </message>
+    <message>
+        <source>Please input a name.</source>
+        <translation>請輸入名稱。</translation>
+    </message>
+</context>
+<context>
+    <name>LockEmployee</name>
+    <message>
+        <source>Lock Employee Settings</source>
+        <translation>鎖定員工設定</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>員工：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>備註：</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Monday</source>
@@ -88,6 +146,13 @@
     <message>
         <source>Update database failed!</source>
         <translation>資料庫更新失敗！</translation>
+    </message>
+</context>
+<context>
+    <name>RecordEditor</name>
+    <message>
+        <source>Please select a employee.</source>
+        <translation>請選擇員工。</translation>
     </message>
 </context>
 <context>
@@ -482,6 +547,241 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>組別</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>匯出</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>員工</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>班別</translation>
+    </message>
+    <message>
+        <source>Permanent Schedules</source>
+        <translation>固定排班</translation>
+    </message>
+    <message>
+        <source>Holidays</source>
+        <translation>假日</translation>
+    </message>
+    <message>
+        <source>Permanent holidays</source>
+        <translation>固定假日</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編輯</translation>
+    </message>
+    <message>
+        <source>Vacations of employee</source>
+        <translation>員工休假</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>選項</translation>
+    </message>
+    <message>
+        <source>Always show schedule from</source>
+        <translation>排班表一律起始於</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Schedule cycle:</source>
+        <translation>排班週期：</translation>
+    </message>
+    <message>
+        <source> Days</source>
+        <translation> 天</translation>
+    </message>
+    <message>
+        <source>Day of week to work</source>
+        <translation>每週工作日</translation>
+    </message>
+    <message>
+        <source>Use 24hour format</source>
+        <translation>使用 24 小時制</translation>
+    </message>
+    <message>
+        <source>Employee lock to schedule</source>
+        <translation>員工鎖定排班</translation>
+    </message>
+    <message>
+        <source>Lock employee work date</source>
+        <translation>鎖定員工上班日期</translation>
+    </message>
+    <message>
+        <source>Customers</source>
+        <translation>客戶</translation>
+    </message>
+    <message>
+        <source>Cust ID</source>
+        <translation>客戶編號</translation>
+    </message>
+    <message>
+        <source>Abbreviation</source>
+        <translation>簡稱</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>客戶</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>班別</translation>
+    </message>
+    <message>
+        <source>CSV File(*.csv)</source>
+        <translation>CSV 檔案 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Export failed!</source>
+        <translation>匯出失敗！</translation>
+    </message>
+    <message>
+        <source>Import failed!</source>
+        <translation>匯入失敗！</translation>
+    </message>
+    <message>
+        <source>The content is empty!</source>
+        <translation>內容是空的！</translation>
+    </message>
+    <message>
+        <source>Save failed!</source>
+        <translation>儲存失敗！</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;無&gt;</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備註</translation>
+    </message>
+    <message>
+        <source>First Name</source>
+        <translation>名</translation>
+    </message>
+    <message>
+        <source>Last Name</source>
+        <translation>姓</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>編號</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>組別</translation>
+    </message>
+    <message>
+        <source>Phone Number</source>
+        <translation>電話號碼</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>開始時間</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>結束時間</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>時長</translation>
+    </message>
+    <message>
+        <source>Designated Employee</source>
+        <translation>指定員工</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>排班表</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Group column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>90</source>
+        <comment>width of the Shift column</comment>
+        <translation>90</translation>
+    </message>
+    <message>
+        <source>150</source>
+        <comment>width of the Designated Employee column</comment>
+        <translation>150</translation>
+    </message>
+    <message>
+        <source>200</source>
+        <comment>width of the Schedule column</comment>
+        <translation>200</translation>
+    </message>
+    <message>
+        <source>Group X</source>
+        <translation>組別 X</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
@@ -546,6 +846,37 @@ from %1 to %2?</source>
     <message>
         <source>Clear Specified Date Schedule</source>
         <translation>清除指定日期範圍的排班表</translation>
+    </message>
+</context>
+<context>
+    <name>VacationSettings</name>
+    <message>
+        <source>Vacation Settings</source>
+        <translation>休假設定</translation>
+    </message>
+    <message>
+        <source>Employees:</source>
+        <translation>員工：</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>日期：</translation>
+    </message>
+    <message>
+        <source>Days:</source>
+        <translation>天數：</translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation>備註：</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效</translation>
     </message>
 </context>
 <context>
@@ -637,6 +968,45 @@ from %1 to %2?</source>
     <message>
         <source>Please select a day of week.</source>
         <translation>請選擇星期幾。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkWeekSelect</name>
+    <message>
+        <source>Day of week to work</source>
+        <translation>每週工作日</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Please select one day at least.</source>
+        <translation>請至少選擇一天。</translation>
     </message>
 </context>
 </TS>
