@@ -134,15 +134,21 @@ private slots:
         QTest::mouseClick(dialog.ui->ck_use24hour, Qt::LeftButton, {}, QPoint(5, dialog.ui->ck_use24hour->height() / 2));
         QCOMPARE(dialog.ui->shiftTable->rowCount(), 2);
         QCOMPARE(dialog.ui->shiftTable->item(0, 2)->text(), QString("08:00"));
-        for (int answer : {QDialog::Accepted, QDialog::Rejected}) {
-            whenDialogOpens<WorkWeekSelect>([answer](WorkWeekSelect *picker) {
-                picker->findChild<QCheckBox *>("ck_1")->click();
-                picker->findChild<QCheckBox *>("ck_7")->click();
-                picker->done(answer);
+        // With no day ticked the picker refuses and stays open; numbers beyond 1 to 7 are ignored.
+        Boxes boxes;
+        for (const bool accept : {true, false}) {
+            whenDialogOpens<WorkWeekSelect>([accept](WorkWeekSelect *picker) {
+                for (QCheckBox *day : picker->findChildren<QCheckBox *>())
+                    day->setChecked(false);
+                QTest::keyClick(picker, Qt::Key_Return);
+                picker->setSel("3,,9,x,1,7,0");
+                QTest::keyClick(picker, accept ? Qt::Key_Return : Qt::Key_Escape);
             });
             QTest::mouseClick(dialog.ui->btn_workWeek, Qt::LeftButton);
         }
-        QCOMPARE(dialog.ui->btn_workWeek->text(), QString("2,3,4,5,6"));
+        QCOMPARE(dialog.ui->btn_workWeek->text(), QString("1,3,7"));
+        QCOMPARE(boxes.texts, QStringList(2, "Please select one day at least."));
+        QCOMPARE(boxes.icons.value(0), QMessageBox::Information);
     }
 
     void ruleDescription_data()

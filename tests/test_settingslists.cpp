@@ -10,7 +10,6 @@
 #include "masterdata/settings.h"
 #include "masterdata/staffsselect.h"
 #include "masterdata/vacationsettings.h"
-#include "masterdata/workweekselect.h"
 #include "persistence/databasefunc.h"
 
 // A table's rows in stored order, fields joined by "/".
@@ -185,21 +184,6 @@ private slots:
         const QString name = kind == "holiday" ? "t_holidayinfo" : kind == "vacation" ? "t_vacationinfo" : "t_lock_employee";
         QTEST(items(dialog.findChild<QListWidget *>(kind == "holiday" ? "lst_holidays" : kind == "vacation" ? "lst_vacations" : "lst_lock"))
                   + " " + table(name), "after");
-    }
-
-    void workWeek()
-    {
-        WorkWeekSelect picker;
-        picker.show();
-        Boxes boxes;
-        QTest::keyClick(&picker, Qt::Key_Return);
-        QVERIFY(picker.isVisible());
-        QCOMPARE(boxes.texts + boxes.titles, (QStringList{"Please select one day at least.", ""}));
-        QCOMPARE(boxes.icons, {QMessageBox::Information});
-        picker.setSel("3,,9,x,1,7,0");
-        QCOMPARE(picker.getSel(), "1,3,7");
-        QTest::keyClick(&picker, Qt::Key_Return);
-        QCOMPARE(picker.result(), int(QDialog::Accepted));
     }
 
     // The picker drops down under its button and is made and loaded once; the vacation's ticks
