@@ -158,6 +158,7 @@ private slots:
         QTest::newRow("plain list as it stands") << "2;2;2;2;2;1;0" << "2;2;2;2;2;1;0";
         QTest::newRow("broken XML is a plain value") << "<dt t='1'" << "<dt t='1'";
         QTest::newRow("weekly rule") << "<dt t='0' stn='1;;3'/>" << "1;;3";
+        QTest::newRow("no kind is the weekly rule") << "<dt/>" << "";
         QTest::newRow("range") << "<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>"
                                << "From:2026-03-01 To:2026-03-31 Week:5 Day of week:1;2";
         QTest::newRow("one day") << "<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>"

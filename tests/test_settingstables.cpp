@@ -8,6 +8,7 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
+#include "core/apppaths.h"
 #include "engine/workdateassign.h"
 #include "masterdata/settings.h"
 #include "persistence/databasefunc.h"
@@ -250,16 +251,19 @@ private slots:
         const QString before = cells(table(0));
         const QString file = TestHome::path() + "/bad.csv";
         Boxes boxes;
-        answerFileDialog(file, nullptr, [file] { QDir().mkdir(file); });
+        QStringList exported, imported; // caption, filter and folder of each dialog
+        answerFileDialog(file, &exported, [file] { QDir().mkdir(file); });
         click(0, "Export");
         QVERIFY(QDir().rmdir(file));
         for (const QByteArray &content : {QByteArray(), QByteArray("name,note\r\n"), QByteArray("a,b\r\n1,2\r\n")}) {
             QVERIFY(writeFile(file, content));
-            answerFileDialog(file, nullptr, [file, content] { content.isEmpty() && QFile::remove(file); });
+            answerFileDialog(file, &imported, [file, content] { content.isEmpty() && QFile::remove(file); });
             click(0, "Import");
         }
         QCOMPARE(boxes.texts.join(" "), "Export failed! Import failed! The content is empty! The content is empty!");
         QCOMPARE(cells(table(0)), before);
+        QCOMPARE(exported + imported, QStringList({"Export", "CSV File(*.csv)", getAppDataPath(2), "Import", "CSV File(*.csv)",
+                                                   getAppDataPath(2)}));
     }
 };
 
