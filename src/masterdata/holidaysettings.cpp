@@ -18,7 +18,7 @@ HolidaySettings::~HolidaySettings()
 
 void HolidaySettings::accept()
 {
-    if (ui->ed_name->text().trimmed().isEmpty())
+    if (ui->ed_name->text().isEmpty())
         return refuse(tr("Please input a name."));
     RecordEditor::accept();
 }
