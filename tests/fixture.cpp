@@ -17,6 +17,7 @@
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
 #include "ui_rosteramain.h"
+#include "update/softupdate.h"
 
 static QString g_home;
 
@@ -35,6 +36,8 @@ TestHome::TestHome()
     QFile::setPermissions(g_home + "/run", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     setApplicationIdentity();
+    // Every window asks its update host at start: a closed loopback port, never the network.
+    SoftUpdate::server = "http://127.0.0.1:1";
     Q_INIT_RESOURCE(rostera);
 }
 

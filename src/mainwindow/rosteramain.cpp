@@ -60,6 +60,8 @@ RosteraMain::RosteraMain(QWidget *parent)
     const QByteArray columns = QByteArray::fromBase64(settings.value("columns", QString()).toString().toLatin1());
     if (!columns.isEmpty())
         ui->tableWidget->horizontalHeader()->restoreState(columns);
+
+    checkUpdate();
 }
 
 RosteraMain::~RosteraMain()

@@ -131,6 +131,15 @@ public slots:
     void on_date_current_dateChanged(const QDate &date);
     void on_cmb_person_currentIndexChanged(int index);
     void on_cmb_group_currentIndexChanged(int index);
+
+    // --- software update (update/updatecheck.cpp) ---
+public:
+    // Asks the update host for the offered version without waiting; the answer goes to ifUpdate.
+    void checkUpdate();
+public slots:
+    void ifUpdate();
+    void on_action_Update_triggered();
+    // --- end of software update ---
 };
 
 extern RosteraMain *g_pMain;

@@ -782,6 +782,69 @@ vom %1 bis %2 wirklich löschen?</translation>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Software-Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>Neue Version automatisch suchen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>Neue Version[%1] verfügbar, aktuelle Version[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>Die aktuelle Version[%1] ist die neueste</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>Die Aktualisierungsdatei konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>Die Aktualisierungsdatei konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>Fehler beim Herunterladen</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>Die Datei konnte nicht heruntergeladen werden</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>Die Aktualisierungsdatei wurde heruntergeladen
+Die Aktualisierung startet automatisch</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>Die Aktualisierungsdatei wurde heruntergeladen
+Sie liegt in %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>Die Aktualisierung läuft. Möchten Sie sie abbrechen?</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

@@ -782,6 +782,69 @@ del %1 al %2?</translation>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Actualización del software</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>Detectar automáticamente la nueva versión</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>Nueva versión[%1] disponible, versión actual[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>La versión actual[%1] es la más reciente</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>No se pudo crear el archivo de actualización</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>No se pudo escribir el archivo de actualización</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>Error de descarga</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>No se pudo descargar el archivo</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>Descarga del archivo de actualización terminada
+la actualización se iniciará automáticamente</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>Descarga del archivo de actualización terminada
+El archivo está en %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>Se está actualizando. ¿Desea cancelar?</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

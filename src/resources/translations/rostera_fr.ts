@@ -782,6 +782,69 @@ du %1 au %2&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Mise à jour du logiciel</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>Détecter automatiquement la nouvelle version</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>Nouvelle version[%1] disponible, version actuelle[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>La version actuelle[%1] est la plus récente</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>Impossible de créer le fichier de mise à jour</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>Impossible d&apos;écrire le fichier de mise à jour</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>Erreur de téléchargement</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>Le téléchargement du fichier a échoué</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>Téléchargement du fichier de mise à jour terminé
+la mise à jour va démarrer automatiquement</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>Téléchargement du fichier de mise à jour terminé
+Le fichier se trouve dans %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>Mise à jour en cours. Voulez-vous annuler ?</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

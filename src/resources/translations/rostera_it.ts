@@ -782,6 +782,69 @@ dal %1 al %2?</translation>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Aggiornamento del software</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versione</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>Rileva automaticamente la nuova versione</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>Nuova versione[%1] disponibile, versione attuale[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>La versione attuale[%1] è la più recente</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>Impossibile creare il file di aggiornamento</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>Impossibile scrivere il file di aggiornamento</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>Errore di download</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>Download del file non riuscito</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>Download del file di aggiornamento completato
+l&apos;aggiornamento partirà automaticamente</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>Download del file di aggiornamento completato
+Il file si trova in %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>Aggiornamento in corso. Annullare?</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

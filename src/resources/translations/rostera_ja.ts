@@ -782,6 +782,69 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>ソフトウェアの更新</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>新しいバージョンを自動的に確認する</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>新しいバージョン[%1]があります。現在のバージョン[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>現在のバージョン[%1]は最新です</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>更新ファイルを作成できませんでした</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>更新ファイルを書き込めませんでした</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>ダウンロードエラー</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>ファイルをダウンロードできませんでした</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>更新ファイルのダウンロードが完了しました
+更新は自動的に開始されます</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>更新ファイルのダウンロードが完了しました
+ファイルの場所: %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>更新中です。キャンセルしますか？</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

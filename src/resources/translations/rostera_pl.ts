@@ -782,6 +782,69 @@ od %1 do %2?</translation>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Aktualizacja programu</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Wersja</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>Automatycznie wykrywaj nową wersję</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizuj</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>Dostępna nowa wersja[%1], bieżąca wersja[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>Bieżąca wersja[%1] jest najnowsza</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>Nie można utworzyć pliku aktualizacji</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>Nie można zapisać pliku aktualizacji</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>Błąd pobierania</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>Nie można pobrać pliku</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>Pobieranie pliku aktualizacji zakończone
+aktualizacja uruchomi się automatycznie</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>Pobieranie pliku aktualizacji zakończone
+Plik znajduje się w %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>Trwa aktualizacja. Czy chcesz ją anulować?</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

@@ -782,6 +782,69 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>Обновление программы</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Версия</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>Автоматически проверять наличие новой версии</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>Доступна новая версия[%1], текущая версия[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>Текущая версия[%1] является последней</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>Не удалось создать файл обновления</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>Не удалось записать файл обновления</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>Ошибка загрузки</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>Не удалось загрузить файл</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>Файл обновления загружен
+обновление начнётся автоматически</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>Файл обновления загружен
+Он находится в %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>Идёт обновление. Отменить?</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>

@@ -782,6 +782,69 @@ from %1 to %2?</source>
     </message>
 </context>
 <context>
+    <name>SoftUpdate</name>
+    <message>
+        <source>Software Update</source>
+        <translation>軟體更新</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Automatically detect the new version</source>
+        <translation>自動偵測新版本</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>New version[%1] available, current version[%2]</source>
+        <translation>有新版本[%1]，目前版本[%2]</translation>
+    </message>
+    <message>
+        <source>Current[%1] is the latest version</source>
+        <translation>目前版本[%1]已是最新版本</translation>
+    </message>
+    <message>
+        <source>Create update file failed</source>
+        <translation>建立更新檔案失敗</translation>
+    </message>
+    <message>
+        <source>Write update file failed</source>
+        <translation>寫入更新檔案失敗</translation>
+    </message>
+    <message>
+        <source>Download error</source>
+        <translation>下載錯誤</translation>
+    </message>
+    <message>
+        <source>Download file failed</source>
+        <translation>下載檔案失敗</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+update process will start automatically</source>
+        <translation>更新檔案下載完成
+更新將自動開始</translation>
+    </message>
+    <message>
+        <source>Download update file finish
+The update file is in %1</source>
+        <translation>更新檔案下載完成
+更新檔案位於 %1</translation>
+    </message>
+    <message>
+        <source>Being updated, you want to cancel?</source>
+        <translation>正在更新，是否取消？</translation>
+    </message>
+</context>
+<context>
     <name>ToolBar</name>
     <message>
         <source>Auto create schedule</source>
