@@ -1,6 +1,7 @@
 #include "masterdata/settings.h"
 
 #include <QListWidget>
+#include <QMessageBox>
 #include <QSettings>
 
 #include "core/apppaths.h"
@@ -101,6 +102,16 @@ void Settings::updateEmployeeLockSchedule()
     ui->shiftTable->horizontalHeaderItem(1)->setText(customers ? tr("Cust ID") : tr("Abbreviation"));
     ui->permanentScheduleTable->horizontalHeaderItem(1)->setText(customers ? tr("Customer") : tr("Shift"));
     ui->permanentScheduleTable->setColumnHidden(2, !customers);
+}
+
+QString Settings::noneText()
+{
+    return tr("<None>");
+}
+
+void Settings::warn(const QString &text)
+{
+    QMessageBox::warning(this, QString(), text, QMessageBox::Ok);
 }
 
 QString Settings::getDateAssignDesc(const QString &daystaffnum)

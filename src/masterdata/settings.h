@@ -36,6 +36,10 @@ public:
     void loadOptions();
     void saveOptions();
     static QString getDateAssignDesc(const QString &daystaffnum);
+    // The translated "<None>" that stands for an empty group or employee in the tables.
+    static QString noneText();
+    // A warning box with an empty title and an OK button, as every tab reports a refusal.
+    void warn(const QString &text);
 
     // --- tables ---
     // Records of the table's rows (stored values: "" for "<None>", times "hh:mm"), sorted.

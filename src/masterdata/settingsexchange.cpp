@@ -1,8 +1,6 @@
 #include "masterdata/settings.h"
 
-#include <QCoreApplication>
 #include <QFileDialog>
-#include <QMessageBox>
 
 #include "core/apppaths.h"
 #include "core/csvfile.h"
@@ -22,36 +20,31 @@ const QStringList kHolidayFields{"name", "date", "days", "repeat", "valid"};
 const QStringList kVacationFields{"staffids", "date", "days", "valid", "note"};
 const QStringList kLockFields{"staffids", "date", "valid", "note"};
 
-void warn(QWidget *parent, const QString &message)
-{
-    QMessageBox::warning(parent, QString(), message, QMessageBox::Ok);
-}
-
 // Asks for a file and writes the records to it; the path is taken as it comes back.
-void exportRecords(QWidget *parent, QVector<ASAttribute> records, QStringList fields)
+void exportRecords(Settings *parent, QVector<ASAttribute> records, QStringList fields)
 {
     const QString path =
-        QFileDialog::getSaveFileName(parent, QCoreApplication::translate("Settings", "Export"), getAppDataPath(2),
-                                     QCoreApplication::translate("Settings", "CSV File(*.csv)"));
+        QFileDialog::getSaveFileName(parent, Settings::tr("Export"), getAppDataPath(2),
+                                     Settings::tr("CSV File(*.csv)"));
     if (!path.isEmpty() && !infoExport(records, fields, path))
-        warn(parent, QCoreApplication::translate("Settings", "Export failed!"));
+        parent->warn(Settings::tr("Export failed!"));
 }
 
 // Asks for a file and reads it. False, and the tab is left as it is, when nothing was chosen,
 // the file cannot be read or it holds no record.
-bool importRecords(QWidget *parent, QStringList fields, QVector<ASAttribute> &records)
+bool importRecords(Settings *parent, QStringList fields, QVector<ASAttribute> &records)
 {
     const QString path =
-        QFileDialog::getOpenFileName(parent, QCoreApplication::translate("Settings", "Import"), getAppDataPath(2),
-                                     QCoreApplication::translate("Settings", "CSV File(*.csv)"));
+        QFileDialog::getOpenFileName(parent, Settings::tr("Import"), getAppDataPath(2),
+                                     Settings::tr("CSV File(*.csv)"));
     if (path.isEmpty())
         return false;
     if (!infoImport(records, fields, path)) {
-        warn(parent, QCoreApplication::translate("Settings", "Import failed!"));
+        parent->warn(Settings::tr("Import failed!"));
         return false;
     }
     if (records.isEmpty()) {
-        warn(parent, QCoreApplication::translate("Settings", "The content is empty!"));
+        parent->warn(Settings::tr("The content is empty!"));
         return false;
     }
     return true;

@@ -1,7 +1,6 @@
 #include "masterdata/settings.h"
 
 #include <QListWidget>
-#include <QMessageBox>
 
 #include "masterdata/holidaysettings.h"
 #include "masterdata/lockemployee.h"
@@ -94,7 +93,7 @@ static void removeSelected(QListWidget *list, QVector<ASAttribute> &records)
 static void reportSave(Settings *dialog, bool saved)
 {
     if (!saved)
-        QMessageBox::warning(dialog, QString(), Settings::tr("Save failed!"), QMessageBox::Ok);
+        dialog->warn(Settings::tr("Save failed!"));
 }
 
 void Settings::addHolidayInfos(QVector<ASAttribute> &list, bool append)

@@ -1,8 +1,6 @@
 #include "masterdata/settings.h"
 
-#include <QCoreApplication>
 #include <QHeaderView>
-#include <QMessageBox>
 
 #include "core/helpers.h"
 #include "core/sortinfo.h"
@@ -22,20 +20,15 @@ const QStringList kGroupKeys{"name", "abbreviation", "note"};
 const QStringList kStaffKeys{"fname", "lname", "id", "groupname", "phonenum", "note"};
 const QStringList kShiftKeys{"name", "abbreviation", "starttm", "endtm"};
 
-QString none()
-{
-    return QCoreApplication::translate("Settings", "<None>");
-}
-
 // The empty group or employee is shown as "<None>", and "<None>" read back as empty.
 QString showNone(const QString &value)
 {
-    return value.isEmpty() ? none() : value;
+    return value.isEmpty() ? Settings::noneText() : value;
 }
 
 QString readNone(const QString &text)
 {
-    return text == none() ? QString() : text;
+    return text == Settings::noneText() ? QString() : text;
 }
 
 QString cellText(const QTableWidget *table, int row, int column)
@@ -285,7 +278,7 @@ void Settings::on_btn_groupSave_clicked()
     groupInfo(list);
     QString error;
     if (!getDB()->saveGroupInfo(list, error)) {
-        QMessageBox::warning(this, QString(), QString("%1\n").arg(tr("Save failed!")) + error, QMessageBox::Ok);
+        warn(QString("%1\n").arg(tr("Save failed!")) + error);
         return;
     }
     refreshGroup(true);
@@ -293,7 +286,7 @@ void Settings::on_btn_groupSave_clicked()
 
 void Settings::on_btn_staffAdd_clicked()
 {
-    addRow(ui->staffTable, {QString(), QString(), QString(), none()});
+    addRow(ui->staffTable, {QString(), QString(), QString(), Settings::noneText()});
 }
 
 void Settings::on_btn_staffDelete_clicked()
@@ -307,7 +300,7 @@ void Settings::on_btn_staffSave_clicked()
     QVector<ASAttribute> list;
     staffInfo(list);
     if (!getDB()->saveStaffInfo(list)) {
-        QMessageBox::warning(this, QString(), tr("Save failed!"), QMessageBox::Ok);
+        warn(tr("Save failed!"));
         return;
     }
     refreshStaff(true);
@@ -331,7 +324,7 @@ void Settings::on_btn_shiftSave_clicked()
     QVector<ASAttribute> list;
     shiftInfo(list);
     if (!getDB()->saveShiftInfo(list)) {
-        QMessageBox::warning(this, QString(), tr("Save failed!"), QMessageBox::Ok);
+        warn(tr("Save failed!"));
         return;
     }
     refreshShift(true);
@@ -339,7 +332,7 @@ void Settings::on_btn_shiftSave_clicked()
 
 void Settings::on_btn_permanentScheduleAdd_clicked()
 {
-    addRow(ui->permanentScheduleTable, {none()});
+    addRow(ui->permanentScheduleTable, {Settings::noneText()});
     ASAttribute record;
     record.setAttr("infotype", QString("permanentschedule"));
     permanentSchedules << record;
@@ -362,7 +355,7 @@ void Settings::on_btn_permanentScheduleSave_clicked()
     QVector<ASAttribute> records = permanentSchedules;
     permanentScheduleInfo(records);
     if (!getDB()->savePermanentSchedule(records)) {
-        QMessageBox::warning(this, QString(), tr("Save failed!"), QMessageBox::Ok);
+        warn(tr("Save failed!"));
         return;
     }
     permanentSchedules = getDB()->permanentSchedules;

@@ -1,7 +1,6 @@
 #include "masterdata/tabledelegate.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QTimeEdit>
 
 #include "core/helpers.h"
@@ -45,7 +44,7 @@ QComboBox *namesBox(QWidget *parent, bool withNone, const QVector<ASAttribute> &
 {
     auto *box = new QComboBox(parent);
     if (withNone)
-        box->addItem(QCoreApplication::translate("Settings", "<None>"));
+        box->addItem(Settings::noneText());
     for (const ASAttribute &record : records)
         box->addItem(record.attr(key, QString()));
     return box;
