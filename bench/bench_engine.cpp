@@ -1,6 +1,8 @@
 // Times generation, check, repair and the grid refresh on a synthetic plan of 1,000 employees,
 // each beside a bare SQLite write or read of the same rows, and prints the medians.
 #include <QApplication>
+#include <QPainter>
+#include <QPrinter>
 #include <QElapsedTimer>
 #include <QSet>
 #include <QSettings>
@@ -15,6 +17,8 @@
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
+#include "reports/reports.h"
+#include "ui_reports.h"
 #include "fixture.h"
 #include "ui_rosteramain.h"
 
@@ -177,6 +181,40 @@ static void report(QTextStream &out, const QString &what, double ms, double bare
                .arg(ms <= budgetMs ? "" : "   OVER BUDGET");
 }
 
+// "Employee Monthly" of every group to a PDF, beside the same number of pages of plain text drawn
+// with QPainter into a PDF: as many lines per page as the report has rows, each of the same length.
+static void reportBench(QTextStream &out, const QString &folder)
+{
+    Reports reports;
+    reports.ui->listWidget->setCurrentRow(Reports::EmployeeMonthly);
+    reports.ui->date_from->setDate(kFirstDay);
+    reports.ui->cmb_group->setCurrentIndex(0);
+    const double ms = median([&] {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder + "/monthly.pdf");
+        reports.printPreview(&printer);
+    });
+    const int pages = qMax(reports.pageNo, 1);
+    const int linesPerPage = getDB()->staffs.size() / pages + 1;
+    const QString line = staffId(0) + QString(" S1").repeated(kCycleDays);
+    const double plainMs = median([&] {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder + "/plain.pdf");
+        QPainter painter(&printer);
+        painter.setFont(QFont("Arial", 10));
+        for (int page = 0; page < pages; ++page) {
+            if (page > 0)
+                printer.newPage();
+            for (int i = 0; i < linesPerPage; ++i)
+                painter.drawText(0, 100 + i * 150, line);
+        }
+    });
+    out << QString("Report pages: %1 (%2 rows a page)\n").arg(pages).arg(linesPerPage);
+    report(out, "Employee Monthly to PDF", ms, plainMs, "text", 2000);
+}
+
 int main(int argc, char **argv)
 {
     // A fresh temporary home, made before the application object, removed at the end.
@@ -233,6 +271,7 @@ int main(int argc, char **argv)
            }),
            select, "select", 200);
     out << QString("Faults reported by the check: %1\n").arg(faults.size());
+    reportBench(out, TestHome::path());
     out.flush();
     getDB()->closeDB();
     return 0;

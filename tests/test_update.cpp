@@ -47,19 +47,14 @@ private slots:
         QVERIFY(QDir().mkpath(tmp) && (window = openWindow()));
     }
     void cleanupTestCase() { QDesktopServices::unsetUrlHandler("file"); }
-
     // One path for all: the start-up check (its option off) and the dialog read the version file, the update
     // button downloads into the temporary folder (in "no folder" a file), the close button ends, asking while
     // a download runs (answered No, then Yes).
     void update_data()
     {
-        for (const char *column : {"file", "installer"})
-            QTest::addColumn<QByteArray>(column);
-        for (const char *column : {"folder", "shown", "offered"})
-            QTest::addColumn<QString>(column);
-        QTest::addColumn<int>("progress");
-        QTest::addColumn<QStringList>("messages");
-        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QByteArray>("file"), QTest::addColumn<QByteArray>("installer"), QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("shown"), QTest::addColumn<QString>("offered"), QTest::addColumn<int>("progress");
+        QTest::addColumn<QStringList>("messages"), QTest::addColumn<qint64>("bytes");
         const QString cancel = "Being updated, you want to cancel?", notes = "[4.1.1]\nFaster.", exe = QCoreApplication::applicationFilePath();
         const QByteArray v = notes.toLatin1(), none;
         QTest::newRow("equal") << QByteArray("[3.5.9]\nNotes") << none << "" << "[3.5.9]\nNotes" << "" << 0 << QStringList() << 0LL;
@@ -76,19 +71,12 @@ private slots:
     }
     void update()
     {
-        QFETCH(QByteArray, file);
-        QFETCH(QByteArray, installer);
-        QFETCH(QString, folder);
-        QFETCH(QString, shown);
-        QFETCH(QString, offered);
-        QFETCH(int, progress);
-        QFETCH(QStringList, messages);
-        QFETCH(qint64, bytes);
+        QFETCH(QByteArray, file); QFETCH(QByteArray, installer); QFETCH(QString, folder); QFETCH(QString, shown);
+        QFETCH(QString, offered); QFETCH(int, progress); QFETCH(QStringList, messages); QFETCH(qint64, bytes);
         answers = {{SoftUpdate::versionFile, http(file)}, {SoftUpdate::installerFile, installer}};
         SoftUpdate::server = hostUrl.arg(file.isEmpty() ? 1 : host.serverPort());
         qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8());
-        QFile::remove(tmp + "/rtrupdate.exe");
-        opened.clear();
+        QFile::remove(tmp + "/rtrupdate.exe"), opened.clear();
         QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("auto update", false);
         window->ui->action_Update->setVisible(false);
         window->checkUpdate();
