@@ -5,7 +5,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QProcess>
 #include <QSettings>
 #include <QUrl>
 
@@ -78,9 +77,11 @@ void RosteraMain::on_select_language()
 
 void RosteraMain::on_action_Help_triggered()
 {
-    const QString helpFile = getAppPath() + "/Rostera.chm";
-    // The help viewer exists on Windows only; wherever it can't show the file, the online help can.
-    if (!QFile::exists(helpFile) || !QProcess::startDetached("hh.exe", {helpFile}))
+    // The guide beside the program, in the default browser; without it the online help.
+    const QString guide = getAppPath() + "/help/index.html";
+    if (QFile::exists(guide))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(guide));
+    else
         QDesktopServices::openUrl(QUrl(QString("http://%1%2").arg(AppInfo::webHost, AppInfo::onlineHelpPath)));
 }
 
