@@ -12,6 +12,7 @@
 #include "core/apppaths.h"
 #include "masterdata/settings.h"
 #include "persistence/databasefunc.h"
+#include "reports/reports.h"
 #include "ui_rosteramain.h"
 
 void RosteraMain::updateTitle()
@@ -115,3 +116,9 @@ void RosteraMain::on_actionShift_Settings_triggered() { openSettings(2); }
 void RosteraMain::on_actionPermanentSchedule_Settings_triggered() { openSettings(3); }
 void RosteraMain::on_actionHoliday_Settings_triggered() { openSettings(4); }
 void RosteraMain::on_actionOptions_Settings_triggered() { openSettings(5); }
+
+void RosteraMain::on_reports_clicked()
+{
+    Reports reports(this);
+    reports.exec();
+}

@@ -44,6 +44,7 @@ RosteraMain::RosteraMain(QWidget *parent)
     for (QToolButton *button : {ui->btn_preyear, ui->btn_premonth, ui->btn_preweek, ui->btn_nextyear,
                                 ui->btn_nextmonth, ui->btn_nextweek})
         connect(button, &QToolButton::clicked, this, &RosteraMain::on_dateOper);
+    connect(ui->actionReports, &QAction::triggered, this, &RosteraMain::on_reports_clicked);
     for (QAction *action : {ui->actionView_By_Person, ui->actionView_By_Schedule, ui->actionView_All,
                             ui->actionView_One_Group, ui->actionView_One_Person})
         connect(action, &QAction::triggered, this, &RosteraMain::on_actionViewType);

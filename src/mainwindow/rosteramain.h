@@ -109,6 +109,8 @@ public:
     void on_select_language();
     void on_showtip();
     void openSettings(int tab);
+    // The reports dialog, modal.
+    void on_reports_clicked();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -41,6 +41,7 @@ ToolBar::ToolBar(QWidget *parent)
     connect(ui->btn_refreshSchedule, &QToolButton::clicked, g_pMain, &RosteraMain::on_refresh_schedule);
     connect(ui->btn_help, &QToolButton::clicked, g_pMain, &RosteraMain::on_action_Help_triggered);
     connect(ui->btn_settings, &QToolButton::clicked, g_pMain, &RosteraMain::on_actionGroup_Settings_triggered);
+    connect(ui->btn_reports, &QToolButton::clicked, g_pMain, &RosteraMain::on_reports_clicked);
 
     viewGroup = makeGroup(this, {ui->btn_byPerson, ui->btn_bySchedule});
     personGroup = makeGroup(this, {ui->btn_allGroup, ui->btn_oneGroup, ui->btn_onePerson});
