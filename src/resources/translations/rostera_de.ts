@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>Berichtseinstellungen</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>Einzelheiten drucken</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>Berichte</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Datum von:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d.M.yyyy</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Datum bis:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppe:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Person:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>Als PDF drucken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Montag</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Dienstag</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mittwoch</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Donnerstag</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Freitag</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samstag</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sonntag</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Di</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Fr</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>So</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> – Bericht</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Stunden</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>Person %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>Mitarbeiter wöchentlich</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>Einzelner Mitarbeiter wöchentlich</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>Schichtbesetzung wöchentlich</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>Mitarbeiter monatlich</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>Einzelner Mitarbeiter monatlich</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>Mitarbeiterkalender</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>Kalender eines Mitarbeiters</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>Mitarbeiter nach Datum</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>Mitarbeiter-Stundenzettel</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>Schichtbesetzung</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>Arbeitsstunden der Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>Arbeitsstunden eines Mitarbeiters</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Alle&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Keine&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>Das Anfangsdatum darf nicht nach dem Enddatum liegen</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>Bitte wählen Sie eine Person</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>In PDF-Datei drucken</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>PDF-Datei(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>Drucken fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>Configuración de informes</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>Imprimir detalle</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>Informes</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Fecha desde:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d/M/yyyy</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Fecha hasta:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupo:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Persona:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>Imprimir PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Empleado</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunes</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martes</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Miércoles</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jueves</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Viernes</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sábado</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domingo</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Ma</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Ju</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Vi</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sá</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> – Informe</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Turno</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Hora de inicio</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Hora de fin</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Empleados</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Horas</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>Persona %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>Empleado semanal</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>Un empleado semanal</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>Asignación de turnos semanal</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>Empleado mensual</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>Un empleado mensual</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>Calendario de empleados</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>Calendario de un empleado</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>Empleado por fecha</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>Hoja de horas de empleados</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>Asignación de turnos</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>Horas de trabajo de empleados</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>Horas de trabajo de un empleado</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Todos&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Ninguno&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>La fecha de inicio no puede ser posterior a la fecha final</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>Seleccione una persona</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>Imprimir en archivo PDF</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>Archivo PDF(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>Error al imprimir</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>Paramètres des rapports</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>Imprimer le détail</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>Rapports</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Date du :</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d/M/yyyy</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Date au :</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Groupe :</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Personne :</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>Imprimer en PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Employé</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lundi</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Mardi</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercredi</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Jeudi</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Vendredi</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Samedi</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Dimanche</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Ma</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Me</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Je</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Ve</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Di</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> – Rapport</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Poste</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semaine</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Heure de début</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Heure de fin</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Employés</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Heures</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>Personne %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>Employé hebdomadaire</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>Un employé hebdomadaire</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>Affectation des postes hebdomadaire</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>Employé mensuel</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>Un employé mensuel</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>Calendrier des employés</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>Calendrier d&apos;un employé</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>Employé par date</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>Feuille de temps des employés</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>Affectation des postes</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>Heures de travail des employés</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>Heures de travail d&apos;un employé</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Tous&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Aucun&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>La date de début ne peut pas être postérieure à la date de fin</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>Veuillez choisir une personne</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>Imprimer dans un fichier PDF</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>Fichier PDF(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>L&apos;impression a échoué</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>Impostazioni report</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>Stampa dettaglio</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>Report</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Data da:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d/M/yyyy</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Data a:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppo:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Persona:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>Stampa PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Dipendente</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Lunedì</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Martedì</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Mercoledì</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Giovedì</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Venerdì</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sabato</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Domenica</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Ma</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Me</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Gi</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Ve</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> – Report</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Turno</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Settimana</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Ora di inizio</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Ora di fine</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Dipendenti</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Ore</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>Persona %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>Dipendente settimanale</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>Singolo dipendente settimanale</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>Assegnazione turni settimanale</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>Dipendente mensile</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>Singolo dipendente mensile</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>Calendario dipendenti</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>Calendario singolo dipendente</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>Dipendente per data</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>Foglio ore dipendenti</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>Assegnazione turni</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>Ore di lavoro dipendenti</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>Ore di lavoro singolo dipendente</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Tutti&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Nessuno&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>La data di inizio non può essere successiva alla data di fine</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>Selezionare una persona</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>Stampa su file PDF</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>File PDF(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>Stampa non riuscita</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

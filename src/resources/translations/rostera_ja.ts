@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>レポート設定</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>詳細を印刷</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>開始日:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>yyyy/M/d</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>終了日:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>グループ:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>個人:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>PDF に印刷</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>従業員</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>火曜日</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>水曜日</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>木曜日</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>金曜日</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>土曜日</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>日曜日</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>火</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>水</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>木</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>金</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>土</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> レポート</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>シフト</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>顧客</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>開始時刻</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>終了時刻</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>従業員</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>個人 %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>従業員週間</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>個人週間</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>シフト割当週間</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>従業員月間</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>個人月間</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>従業員カレンダー</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>個人カレンダー</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>日付別従業員</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>従業員タイムシート</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>シフト割当</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>従業員労働時間</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>個人労働時間</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;すべて&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;なし&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>開始日を終了日より後にすることはできません</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>個人を選択してください</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>PDF ファイルに印刷</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>PDF ファイル(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>印刷に失敗しました</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

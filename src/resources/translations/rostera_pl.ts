@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>Ustawienia raportów</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Raport</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Tytuł</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>Drukuj szczegóły</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>Raporty</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Data od:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d.M.yyyy</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Data do:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupa:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Osoba:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drukuj</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>Drukuj do PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Pracownik</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Poniedziałek</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Wtorek</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Środa</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Czwartek</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Piątek</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Sobota</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Niedziela</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Pn</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Wt</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Śr</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Cz</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Pt</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>So</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Nd</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> – Raport</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Zmiana</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Tydzień</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Klient</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Początek</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Koniec</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Pracownicy</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Godziny</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>Osoba %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>Pracownik tygodniowo</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>Jeden pracownik tygodniowo</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>Przydział zmian tygodniowo</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>Pracownik miesięcznie</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>Jeden pracownik miesięcznie</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>Kalendarz pracowników</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>Kalendarz jednego pracownika</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>Pracownik według daty</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>Karta czasu pracy</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>Przydział zmian</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>Godziny pracy pracowników</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>Godziny pracy jednego pracownika</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Wszystkie&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Brak&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>Data początkowa nie może być późniejsza niż końcowa</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>Wybierz osobę</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>Drukuj do pliku PDF</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>Plik PDF(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>Drukowanie nie powiodło się</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

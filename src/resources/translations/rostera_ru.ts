@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>Настройки отчётов</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Отчёт</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Заголовок</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>Печатать подробности</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>Отчёты</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>Дата с:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d.M.yyyy</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>Дата по:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Группа:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>Сотрудник:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Печать</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Просмотр</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>Печать в PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>Сотрудник</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>Понедельник</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Вторник</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Среда</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Четверг</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Пятница</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Суббота</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Воскресенье</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Пн</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Вт</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Ср</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Чт</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Пт</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Сб</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Вс</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> – Отчёт</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Смена</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Неделя</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>Клиент</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Дата</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>Окончание</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>Сотрудники</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Часы</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>Сотрудник %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>Сотрудник за неделю</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>Один сотрудник за неделю</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>Назначение смен за неделю</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>Сотрудник за месяц</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>Один сотрудник за месяц</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>Календарь сотрудников</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>Календарь одного сотрудника</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>Сотрудник по датам</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>Табель сотрудников</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>Назначение смен</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>Рабочие часы сотрудников</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>Рабочие часы одного сотрудника</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Все&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Нет&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>Дата начала не может быть позже даты окончания</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>Выберите сотрудника</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>Печать в файл PDF</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>Файл PDF(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>Ошибка печати</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

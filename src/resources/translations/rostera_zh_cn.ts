@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>报表设置</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>报表</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>打印明细</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>报表</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>开始日期:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>yyyy/M/d</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>结束日期:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>组:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>人员:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>打印为 PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>员工</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>一</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>二</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>三</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>四</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>五</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>六</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> 报表</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>班次</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>周</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>客户</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>结束时间</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>员工</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>小时</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>人员 %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>员工周表</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>单个员工周表</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>排班分配周表</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>员工月表</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>单个员工月表</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>员工日历</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>单个员工日历</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>按日期的员工表</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>员工工时表</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>排班分配</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>员工工作时数</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>单个员工工作时数</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;全部&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;无&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>开始日期不能晚于结束日期</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>请选择一个人员</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>打印到 PDF 文件</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>PDF 文件(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>打印失败</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>

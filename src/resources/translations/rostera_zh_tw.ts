@@ -156,6 +156,248 @@
     </message>
 </context>
 <context>
+    <name>ReportSettings</name>
+    <message>
+        <source>Report Settings</source>
+        <translation>報表設定</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>報表</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>標題</translation>
+    </message>
+    <message>
+        <source>Print detail</source>
+        <translation>列印明細</translation>
+    </message>
+</context>
+<context>
+    <name>Reports</name>
+    <message>
+        <source>Reports</source>
+        <translation>報表</translation>
+    </message>
+    <message>
+        <source>Date from:</source>
+        <translation>開始日期:</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>yyyy/M/d</translation>
+    </message>
+    <message>
+        <source>Date to:</source>
+        <translation>結束日期:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>組:</translation>
+    </message>
+    <message>
+        <source>Person:</source>
+        <translation>人員:</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>列印</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>Print PDF</source>
+        <translation>列印為 PDF</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Employee</source>
+        <translation>員工</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>星期日</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>一</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>二</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>三</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>四</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>五</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>六</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source> Report</source>
+        <translation> 報表</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>班次</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>Customer</source>
+        <translation>客戶</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>開始時間</translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation>結束時間</translation>
+    </message>
+    <message>
+        <source>Employees</source>
+        <translation>員工</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>小時</translation>
+    </message>
+    <message>
+        <source>Person %1</source>
+        <translation>人員 %1</translation>
+    </message>
+    <message>
+        <source>Employee Weekly</source>
+        <translation>員工週表</translation>
+    </message>
+    <message>
+        <source>Single Employee Weekly</source>
+        <translation>單一員工週表</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment Weekly</source>
+        <translation>排班分配週表</translation>
+    </message>
+    <message>
+        <source>Employee Monthly</source>
+        <translation>員工月表</translation>
+    </message>
+    <message>
+        <source>Single Employee Monthly</source>
+        <translation>單一員工月表</translation>
+    </message>
+    <message>
+        <source>Employee Calendar</source>
+        <translation>員工日曆</translation>
+    </message>
+    <message>
+        <source>Single Employee Calendar</source>
+        <translation>單一員工日曆</translation>
+    </message>
+    <message>
+        <source>Employee By Date</source>
+        <translation>按日期的員工表</translation>
+    </message>
+    <message>
+        <source>Employee Timesheet</source>
+        <translation>員工工時表</translation>
+    </message>
+    <message>
+        <source>Schedule Assignment</source>
+        <translation>排班分配</translation>
+    </message>
+    <message>
+        <source>Employee Work Hours</source>
+        <translation>員工工作時數</translation>
+    </message>
+    <message>
+        <source>Single Employee Work Hours</source>
+        <translation>單一員工工作時數</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;全部&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;無&gt;</translation>
+    </message>
+    <message>
+        <source>The start date can not be earlier than the end date</source>
+        <translation>開始日期不能晚於結束日期</translation>
+    </message>
+    <message>
+        <source>Please select a person</source>
+        <translation>請選擇一個人員</translation>
+    </message>
+    <message>
+        <source>Print PDF File</source>
+        <translation>列印到 PDF 檔案</translation>
+    </message>
+    <message>
+        <source>PDF File(*.pdf)</source>
+        <translation>PDF 檔案(*.pdf)</translation>
+    </message>
+    <message>
+        <source>Print failed</source>
+        <translation>列印失敗</translation>
+    </message>
+</context>
+<context>
     <name>RosteraMain</name>
     <message>
         <source>Save schedule failed when repair it!</source>
