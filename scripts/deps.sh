@@ -1,7 +1,8 @@
 # Installs the Debian packages that building, running and testing need, when any is missing.
 # Sourced by start.sh, test.sh, package.sh and check-package.sh.
 ROSTERA_PACKAGES="build-essential cmake qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools
- qt6-l10n-tools qt6-translations-l10n libqt6sql6-sqlite libgl-dev fonts-liberation fonts-noto-cjk"
+ qt6-l10n-tools qt6-translations-l10n libqt6sql6-sqlite libgl-dev fonts-liberation fonts-noto-cjk
+ poppler-utils"
 # Making the Debian package also renders the icons and reads the program's library dependencies.
 ROSTERA_PACKAGING_PACKAGES="dpkg-dev file librsvg2-bin"
 # Checking the package validates the menu entry and the metainfo.
