@@ -113,18 +113,6 @@ private slots:
             saveAndRead(kind, {parse(record)});
         }
     }
-    void readsAndCaches() { // a save sets the cache; a filtered read appends and leaves it, a failed one changes nothing, the plain one makes it the whole of out
-        QVERIFY(db->openDB(home("reads.db")) && writePlan("staff A1/N B1/S A2/N | row N/S S/S | holiday 2025-01-01 | vacation A/2025-03-01/1/0 | lock A/2025-03-02"));
-        QVERIFY(db->groups == planRecords("group", "G H") && db->shifts == planRecords("shift", "S T") && db->staffs == planRecords("staff", "A1/N B1/S A2/N") && db->permanentSchedules == planRecords("row", "N/S S/S"));
-        const QVector<ASAttribute> staffs = db->staffs, rules = db->permanentSchedules;
-        QVector<ASAttribute> out{parse("id=mine")};
-        QVERIFY(db->staffInfo(out, "groupname='N'") && db->permanentSchedule(out, "groupname='S'") && !db->staffInfo(out, "groupname='O'Neil'") && !db->permanentSchedule(out, "x=1"));
-        QCOMPARE(show(out), QString("id=mine | fname= groupname=N id=A1 infotype=staff lname= note= phonenum= | fname= groupname=N id=A2 infotype=staff lname= note= phonenum= | "
-                                    "daystaffnum= employee_name= groupname=S infotype=permanentschedule shiftname=S"));
-        QVERIFY(db->staffs == staffs && db->permanentSchedules == rules && db->staffInfo(out) && db->staffs == out && db->permanentSchedule(out) && db->permanentSchedules == out);
-        QVERIFY(db->groupInfo(out) && db->groups == out && db->shiftInfo(out) && db->shifts == out && out.size() == 13);
-        QVERIFY((out.clear(), db->holidayInfo(out, "valid=0")) && db->vacationInfo(out, "valid=1") && db->lockEmployeeInfo(out, "valid=0") && out.isEmpty());
-    }
     void scheduleRows() {
         QVector<ASAttribute> clash = planRecords("schedule", "2025-04-03/G/S/D 2025-04-01/G/S/E"), out, update = planRecords("schedule", "2025-04-01/G/S/ 2025-04-02/G/S/F;G 2025-04-09/G/S/H"),
                              broken = planRecords("schedule", "2025-04-02/G/S/ 2025-04-02/G/S/it's");

@@ -23,7 +23,6 @@ class TestEditing : public QObject
 private slots:
     void initTestCase() { QVERIFY((window = openWindow())); }
     void cleanupTestCase() { delete window; }
-
     void edit_data()
     {
         QTest::addColumn<QString>("cell");   // option on, view, row label (group mark left out), column
@@ -55,10 +54,7 @@ private slots:
     }
     void edit()
     {
-        QFETCH(QString, cell);
-        QFETCH(QString, action);
-        QFETCH(QString, tip);
-        QFETCH(QString, behind);
+        QFETCH(QString, cell); QFETCH(QString, action); QFETCH(QString, tip); QFETCH(QString, behind);
         const QStringList f = cell.split(' ');
         QVERIFY(writePlan("group G H K | staff 1/G 2/G 3/G 4/G 5/G 6/G 9/K | shift Sx/S Tx/T"
                           " | row G/Sx/1;1;1;1;1;0;0 G/Tx/1;1;1;1;1;1;1 H/Sx/1 | schedule 2026-03-02/G/Sx/1"));
@@ -106,7 +102,6 @@ private slots:
         QCOMPARE(table->rowHeight(index.row()), f[0] == "1" ? 50 : height);
         QToolTip::hideText();
     }
-
     // The picker hangs down from its cell; near the bottom it opens upward from the cell's bottom
     // edge, and never above the table's top.
     void pickerGeometry()
@@ -127,12 +122,10 @@ private slots:
             QCOMPARE(editor.geometry(), expected);
         }
     }
-
     void picker_data()
     {
         QTest::addColumn<QString>("load"); // single, line feed, mode, group, greatest height, current
-        QTest::addColumn<QString>("items");
-        QTest::addColumn<int>("height");
+        QTest::addColumn<QString>("items"), QTest::addColumn<int>("height");
         QTest::addColumn<QString>("data"); // getData of values and of texts
         QTest::newRow("employees of all groups") << "0 0 0 -1 0 2;9;x" << "1 2+ 3 9+" << 50 << "2;9 2;9";
         QTest::newRow("employees of a group") << "0 1 0 G 500 3\n1" << "1+ 2 3+" << 70 << "1\n3 1\n3";
@@ -144,8 +137,7 @@ private slots:
     }
     void picker()
     {
-        QFETCH(QString, load);
-        QFETCH(int, height);
+        QFETCH(QString, load); QFETCH(int, height);
         QVERIFY(writePlan("group G H K | staff 1/G 2/G 3/G 9/K | shift Se/S Tn/T | row G/Se/1 G/Tn/1 H/Se/1"));
         const QStringList f = load.split(' ');
         StaffsSelect picker(nullptr, f[0] == "1", f[1] == "1");

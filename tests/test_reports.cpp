@@ -19,7 +19,6 @@ class TestReports : public QObject
 {
     Q_OBJECT
     const QString file = QDir::temp().filePath("report");
-
     // Prints through the buttons: the PDF's text (pages end in form feeds, blanks squeezed) or "no file",
     // then "|" and the words of the message boxes. A lost file's folder is gone once the name is given.
     QString print(Reports &dialog, int row, const QString &group, const QString &person, bool lost = false)
@@ -46,7 +45,6 @@ private slots:
             " Bob/G Cy/H Nob/ | row G/Day/1;1;1;1;1;1;1 H/Early/1;2;0;0;0;0;0 | schedule 2026-03-02/G/Day/Ann;Bob 2026-03-03/G/Day/Bob"
             " 2026-03-05/G/Day/Bob 2026-03-05/G/Early/Ann 2026-03-02/H/Early/Cy 2026-03-20/G/Day/Ann 2026-04-01/G/Day/Cy 2026-04-20/G/Day/Ann"));
     }
-
     // Each report of 03-02 to 04-10: its pages, its texts in order ("!": not there; "=": the whole result).
     // "<All>" prints the employees without a group first, then each group.
     void reports_data()
@@ -85,7 +83,6 @@ private slots:
             else
                 QVERIFY2((at = text.indexOf(item, at)) >= 0, qPrintable(item + " not in order in " + text));
     }
-
     // "print pdf" is kept at each click. The margins (zero for a value that is no rectangle) are kept
     // after a print, even a failed one, but not after a refusal or a cancelled file dialog.
     void kept()
@@ -101,7 +98,6 @@ private slots:
         config().remove(margins), print(dialog, 8, "G", "");
         QCOMPARE(config().value(margins).toRectF(), QRectF(0.2, 0.2, 0.2, 0.2));
     }
-
     // Titles and detail switches reach the stored text and the open dialog on acceptance only. The
     // monthly reports have no page in the settings dialog, yet their stored titles survive.
     void settings()
@@ -123,24 +119,6 @@ private slots:
                      "title= | title= | printDetail=1 title= | printDetail=0 title=" : "title=T | printDetail=1");
         }
         QCOMPARE(config().value(key).toString().count("\n <type"), 12);
-    }
-
-    // The person box follows the group box. The span starts on the week's first day on or before today
-    // and is "cycle days" + 1 days long.
-    void personsAndDates()
-    {
-        setOption("cycle days", 5), setOption("show from week", 2);
-        Reports dialog; QString lists;
-        for (int group = 0; group < dialog.ui->cmb_group->count(); ++group) {
-            dialog.ui->cmb_group->setCurrentIndex(group), lists += " " + dialog.ui->cmb_group->currentText() + ":";
-            for (int person = 0; person < dialog.ui->cmb_person->count(); ++person) lists += dialog.ui->cmb_person->itemText(person) + ",";
-        }
-        QCOMPARE(lists, " <All>:Ann,Bob,Cy,Nob, <None>:Nob, G:Ann,Bob, H:Cy, E:");
-        const QDate from = dialog.ui->date_from->date(), today = QDate::currentDate();
-        QVERIFY(from.dayOfWeek() == 3 && from <= today && from.daysTo(today) < 7 && from.daysTo(dialog.ui->date_to->date()) == 5);
-        QCOMPARE(dialog.byDateDays(), 6); // the by-date report's columns
-        setOption("show from week", -1);
-        QCOMPARE(Reports().ui->date_from->date(), today);
     }
 };
 

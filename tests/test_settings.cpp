@@ -43,8 +43,7 @@ private slots:
     {
         QTest::addColumn<QString>("stored"); // "key=value;..." of the group Options
         // show from (-1 unchecked), enabled, cycle, 24h, work week, lock | the grid's first date and length after
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("shown"), QTest::addColumn<QString>("written");
         QTest::newRow("nothing stored: the defaults") << "" << "0 on 7 0 1,2,3,4,5,6,7 0 | 03-02 7"
             << "cycle days=7 employee lock schedule=false show from week=0 use 24h=false work week=1,2,3,4,5,6,7";
         QTest::newRow("past Sunday wraps around") << "show from week=9;cycle days=3;use 24h=true;work week=2,4"
@@ -155,8 +154,7 @@ private slots:
 
     void ruleDescription_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("description");
+        QTest::addColumn<QString>("value"), QTest::addColumn<QString>("description");
         QTest::newRow("plain list as it stands") << "2;2;2;2;2;1;0" << "2;2;2;2;2;1;0";
         QTest::newRow("broken XML is a plain value") << "<dt t='1'" << "<dt t='1'";
         QTest::newRow("weekly rule") << "<dt t='0' stn='1;;3'/>" << "1;;3";

@@ -149,9 +149,7 @@ private slots:
     // number unticks, and without the column an item is ticked and stored in force.
     void exchange_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<QString>("header");
-        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("kind"), QTest::addColumn<QString>("header"), QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("after"); // the items, then the table after Save
         QTest::newRow("holiday") << "holiday" << "name,date,days,repeat,valid" << "name,date,repeat,valid\r\nX,2026-05-01,1,yes\r\nY,2026-06-01,0,1\r\n"
                                  << "05-01 X,2026-06-01 Y+ X/2026-05-01/1/0/1 Y/2026-06-01/1/1/0";

@@ -129,8 +129,7 @@ private slots:
     }
     void save()
     {
-        QFETCH(int, tab);
-        QFETCH(QStringList, f);
+        QFETCH(int, tab); QFETCH(QStringList, f);
         // The tab's table, the size of its cached list, the other tables.
         const auto database = [tab] {
             const QVector<ASAttribute> *cache[] = {&getDB()->groups, &getDB()->staffs, &getDB()->shifts,
@@ -199,8 +198,7 @@ private slots:
     }
     void editors()
     {
-        QFETCH(int, tab);
-        QFETCH(QStringList, f);
+        QFETCH(int, tab); QFETCH(QStringList, f);
         if (f.size() > 5)
             tick(f[5]);
         dialog->selSettings(tab);

@@ -88,7 +88,6 @@ private slots:
         QCOMPARE(dialog.ui->ed_versionText->toPlainText(), shown);
         QCOMPARE(window->ui->action_Update->isVisible(), !offered.isEmpty());
         QCOMPARE(dialog.ui->btn_update->isEnabled(), !offered.isEmpty());
-
         Boxes boxes({QMessageBox::No, QMessageBox::Yes});
         QTest::mouseClick(dialog.ui->btn_update, Qt::LeftButton);
         const int questions = messages.filter("cancel?").size();
@@ -103,7 +102,6 @@ private slots:
         QCOMPARE(QFileInfo(tmp + "/rtrupdate.exe").size(), bytes);
         QCOMPARE(opened, QList<QUrl>(messages.value(0).startsWith("Download update file finish"), QUrl::fromLocalFile(tmp)));
     }
-
     // With the option unset (on), a newer version opens the dialog, whose check box turns the option off.
     void autoUpdate()
     {

@@ -78,18 +78,6 @@ private slots:
         window->ui->date_current->setDate({2025, 3, 12});
     }
     void cleanup() { delete window; }
-
-    // 0 follows the system's locale, 1 is English, 2 to 10 name a language; anything else none.
-    void languageCode()
-    {
-        for (const QString &row : {"0 de_DE de", "0 en_US", "0 nl_NL", "0 zh_CN zh_cn", "0 zh_TW zh_tw", "0 zh_SG zh_cn",
-                                   "0 zh_HK zh_tw", "0 zh_MO zh_tw", "0 ja_JP ja", "1 de_DE", "2 en_US de",
-                                   "7 en_US es", "10 en_US zh_tw", "11 de_DE", "-1 de_DE"}) {
-            const QStringList f = row.split(' ');
-            QVERIFY2(chooseLanguageCode(f[0].toInt(), f[1]) == f.value(2), qPrintable(row));
-        }
-    }
-
     // Whatever the file holds, a number comes out, and the menu checks the entry at that place.
     void languageMenu()
     {
@@ -113,7 +101,6 @@ private slots:
         QCOMPARE(boxes.texts, QStringList(2, "Language change will take effect after the restart of the software."));
         QCOMPARE(boxes.icons.value(0), QMessageBox::Information);
     }
-
     void databaseFiles()
     {
         const QString second = getAppDataPath(1) + "/second.db";
@@ -126,7 +113,6 @@ private slots:
         QCOMPARE(dialog, (QStringList{"Open Database", "DB File(*.db)", getAppDataPath(1)}));
         QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(",") + " " + config().value("lastdb").toString(),
                  "Rostera-second Solo--Z1 " + second);
-
         // A path longer than the database library takes does not open: the previous file stays.
         const QString folder = TestHome::path() + "/" + QStringList(3, QString(200, 'a')).join('/');
         QVERIFY(QDir().mkpath(folder) && QFile::copy(defaultDb, folder + "/plan.db"));
@@ -134,7 +120,6 @@ private slots:
         window->ui->actionOpen_Database->trigger();
         QCOMPARE(boxes.texts, QStringList{"Open database failed!"});
         QCOMPARE(getDB()->getDBName(), second);
-
         // Save As copies the file and never overwrites, even after the dialog's own Yes to replace.
         answerFileDialog(defaultDb, &dialog);
         window->ui->actionSave_Database->trigger();
@@ -148,7 +133,6 @@ private slots:
                  "Rostera-my Solo--Z1 " + getAppDataPath(1) + "/my.copy.db");
         QCOMPARE(boxes.texts.size(), 3);
     }
-
     void helpAboutExit()
     {
         const QUrl online("http://www.tavrelinsoftware.com/onlinehelp/rtr/index.html");
@@ -162,7 +146,6 @@ private slots:
         window->ui->action_Website->trigger();
         QCOMPARE(urls, (QList<QUrl>{QUrl::fromLocalFile(guide), online, QUrl("http://www.tavrelinsoftware.com")}));
         QVERIFY(!window->ui->action_Update->isVisible());
-
         Boxes boxes({}, QMessageBox::Cancel);
         window->ui->action_About->trigger();
         // The strip's button and the first entry of its menu both start a generation, which asks.
@@ -175,12 +158,10 @@ private slots:
         window->ui->actionExit->trigger();
         QVERIFY(!window->isVisible());
     }
-
     void dateSpan_data()
     {
         QTest::addColumn<QString>("options"); // show from week, cycle days, work week, picked day of March
-        QTest::addColumn<QString>("dates");
-        QTest::addColumn<int>("marked");
+        QTest::addColumn<QString>("dates"), QTest::addColumn<int>("marked");
         QTest::newRow("monday week") << "0 7 1,2,3,4,5,6,7 12" << "10 11 12 13 14 15 16" << 2;
         QTest::newRow("from picked date") << "-1 7 1,2,3,4,5,6,7 12" << "12 13 14 15 16 17 18" << 0;
         QTest::newRow("friday week goes back five") << "4 7 1,2,3,4,5,6,7 12" << "07 08 09 10 11 12 13" << 5;
@@ -198,9 +179,7 @@ private slots:
     }
     void dateSpan()
     {
-        QFETCH(QString, options);
-        QFETCH(QString, dates);
-        QFETCH(int, marked);
+        QFETCH(QString, options); QFETCH(QString, dates); QFETCH(int, marked);
         const QStringList f = options.split(' ');
         setOption("show from week", f[0].toInt());
         setOption("cycle days", f[1].toInt());
@@ -220,7 +199,6 @@ private slots:
         }
         QCOMPARE(days.join(" "), dates);
     }
-
     void cells_data()
     {
         QTest::addColumn<QString>("choice"); // view, person type, option "employee lock schedule", group, employee
@@ -246,8 +224,7 @@ private slots:
     }
     void cells()
     {
-        QFETCH(QString, choice);
-        QFETCH(QString, cells);
+        QFETCH(QString, choice); QFETCH(QString, cells);
         const QStringList f = choice.split(' ');
         const bool lock = f[2] == "1";
         setOption("employee lock schedule", lock);
@@ -261,33 +238,6 @@ private slots:
         if (choice.startsWith("0 0"))
             QCOMPARE(table(Qt::UserRole).section(';', 1, 1), QString(" AL--A1+ 0=Day/Night") + (lock ? " 3=Day" : ""));
     }
-
-    void cellEdgeCases()
-    {
-        // A second line of a group and shift right after the first: one query served both, and the
-        // second stays empty.
-        const QVector<ASAttribute> lines = getDB()->permanentSchedules, staffs = getDB()->staffs;
-        getDB()->permanentSchedules.insert(1, lines.first());
-        show(1, 0);
-        getDB()->permanentSchedules = lines;
-        QCOMPARE(table().section(';', 0, 2), QString("AL--D+ 0=A1/A2 1=A3/X9; D; N 0=A1 3=B2 4="));
-        // The next week clears what the last one showed.
-        show(0, 0);
-        click(window->ui->btn_nextweek);
-        QCOMPARE(table(Qt::UserRole), QString("N1; AL--A1; A2 3=Day; A3; BE--B1; B2"));
-        // An apostrophe in a group breaks the query of its rows: what was read before stays, without
-        // a word, and the row heights are not touched.
-        click(window->ui->btn_preweek);
-        window->ui->tableWidget->setRowHeight(1, 77);
-        getDB()->staffs.append(record({{"id", "Q1"}, {"groupname", "O'Neil"}}));
-        Boxes boxes;
-        show(0, 0);
-        getDB()->staffs = staffs;
-        QCOMPARE(table(), QString("N1 2=N; AL--A1 0=D/N; A2 0=D; A3 1=D; BE--B1 1=D; B2 5=Late; O'Neil--Q1"));
-        QCOMPARE(window->ui->tableWidget->rowHeight(1), 77);
-        QVERIFY(boxes.texts.isEmpty());
-    }
-
     void viewControls()
     {
         // Each date button moves the picked date; the cycle follows and snaps to the week's Monday.
@@ -313,7 +263,6 @@ private slots:
         QCOMPARE(window->rowLabels, (QStringList{"AL--D", "N", "BE--D", "Late", "--N"}));
         click(window->toolBar->ui->btn_byPerson);
         QCOMPARE(window->rowLabels.size(), 6);
-
         // A change of settings keeps the boxes' choice where it still exists, else takes the first
         // entries; the first person of a group counts as no choice, so a new first one is taken.
         const QVector<ASAttribute> groups = getDB()->groups, staffs = getDB()->staffs;
@@ -331,7 +280,6 @@ private slots:
         getDB()->staffs = staffs;
         QCOMPARE(window->ui->cmb_group->currentText() + " " + window->rowLabels.join(","), QString("Alpha A0"));
     }
-
     void columnWidths()
     {
         QTableWidget *table = window->ui->tableWidget;
@@ -361,7 +309,6 @@ private slots:
         QCOMPARE(window->ui->tableWidget->columnWidth(2), 61);
         QCOMPARE(window->ui->tableWidget->columnWidth(3), 100);
     }
-
     // Last: the translators stay for the rest of the run.
     void translators()
     {
