@@ -1,13 +1,18 @@
-// The Settings dialog's frame: opened from the window at a tab, the options it keeps, and the
-// vocabulary of the option "employee lock schedule".
+// The Settings dialog: how it opens, its options and what they change, and the exception lists.
 #include "fixture.h"
 
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSettings>
 
 #include "core/apppaths.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
+#include "masterdata/lockemployee.h"
 #include "masterdata/settings.h"
+#include "masterdata/staffsselect.h"
+#include "masterdata/vacationsettings.h"
 #include "masterdata/workweekselect.h"
 #include "ui_rosteramain.h"
 #include "ui_settings.h"
@@ -21,6 +26,37 @@ static QString storedOptions()
     for (const QString &key : file.childKeys())
         values << key + "=" + file.value(key).toString();
     return values.join(' ');
+}
+// A table's rows in stored order, fields joined by "/".
+static QString table(const QString &name)
+{
+    QStringList lines;
+    for (const QStringList &row : rows("select * from " + name))
+        lines << row.join('/');
+    return lines.join(' ');
+}
+// Item texts, each followed by "+" when ticked.
+static QString items(QListWidget *list)
+{
+    QStringList texts;
+    for (int i = 0; i < list->count(); ++i)
+        texts << list->item(i)->text() + (list->item(i)->checkState() == Qt::Checked ? "+" : "");
+    return texts.join(',');
+}
+// Answers the next editor: *seen gets what it shows; OK on an empty record, then input and OK, or Cancel.
+static void answerEditor(QString *seen, ASAttribute input)
+{
+    whenDialogOpens<RecordEditor>([seen, input](RecordEditor *editor) mutable {
+        ASAttribute shown, empty;
+        editor->getData(shown);
+        *seen = show({shown}).replace(QDate::currentDate().toString("yyyy-MM-dd"), "today");
+        editor->setData(empty);
+        QTest::keyClick(editor, Qt::Key_Return);
+        editor->setData(input);
+        QTest::keyClick(editor, input.values().isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
+        if (editor->isVisible())
+            editor->reject();
+    });
 }
 
 class TestSettings : public QObject
@@ -36,139 +72,178 @@ private slots:
         QVERIFY(writePlan("staff A/G B/H | row G/S/1;1;1;1;1;1;1 H/T/1;1;1;1;1;1;1"));
     }
     void cleanupTestCase() { delete window; }
-
-    // Each opening shows the options as stored and writes all five back when the dialog closes,
-    // whatever it was given.
+    // Every way in opens its tab. Each opening shows the options as stored and writes all five back
+    // when the dialog closes, whatever it was given; the grid follows them at once.
     void options_data()
     {
+        QTest::addColumn<int>("command"); // of the Settings menu; 6 is the tool strip's button
         QTest::addColumn<QString>("stored"); // "key=value;..." of the group Options
-        // show from (-1 unchecked), enabled, cycle, 24h, work week, lock | the grid's first date and length after
-        QTest::addColumn<QString>("shown"), QTest::addColumn<QString>("written");
-        QTest::newRow("nothing stored: the defaults") << "" << "0 on 7 0 1,2,3,4,5,6,7 0 | 03-02 7"
-            << "cycle days=7 employee lock schedule=false show from week=0 use 24h=false work week=1,2,3,4,5,6,7";
-        QTest::newRow("past Sunday wraps around") << "show from week=9;cycle days=3;use 24h=true;work week=2,4"
-            << "2 on 5 1 2,4 0 | 03-05 5" << "cycle days=5 employee lock schedule=false show from week=2 use 24h=true work week=2,4";
-        QTest::newRow("from the picked date") << "show from week=-1;employee lock schedule=true"
-            << "-1 off 7 0 1,2,3,4,5,6,7 1 | 03-04 7" << "cycle days=7 employee lock schedule=true show from week=-1 use 24h=false work week=1,2,3,4,5,6,7";
+        QTest::addColumn<QString>("result"); // tab, week start's list enabled, grid's first date and length | written
+        const QString defaults = " on 03-02 7 | cycle days=7 employee lock schedule=false show from week=0 use 24h=false "
+                                 "work week=1,2,3,4,5,6,7";
+        for (int command : {0, 1, 2, 3, 6})
+            QTest::addRow("nothing stored, command %d", command) << command << "" << QString::number(command % 6) + defaults;
+        QTest::newRow("past Sunday wraps around") << 4 << "show from week=9;cycle days=3;use 24h=true;work week=2,4"
+            << "4 on 03-05 5 | cycle days=5 employee lock schedule=false show from week=2 use 24h=true work week=2,4";
+        QTest::newRow("from the picked date") << 5 << "show from week=-1;employee lock schedule=true" << "5 off 03-04 7 | "
+            "cycle days=7 employee lock schedule=true show from week=-1 use 24h=false work week=1,2,3,4,5,6,7";
     }
     void options()
     {
-        QFETCH(QString, stored);
+        QFETCH(int, command); QFETCH(QString, stored);
         QFile::remove(getAppDataPath(0));
         for (const QString &pair : stored.split(';', Qt::SkipEmptyParts))
             setOption(pair.section('=', 0, 0), pair.section('=', 1));
         QString shown;
         whenDialogOpens<Settings>([&shown](Settings *dialog) {
-            Ui_Settings *ui = dialog->ui;
-            shown = QString("%1 %2 %3 %4 %5 %6")
-                        .arg(ui->ck_showFrom->isChecked() ? ui->cmb_showFrom->currentIndex() : -1)
-                        .arg(ui->cmb_showFrom->isEnabled() ? "on" : "off")
-                        .arg(ui->ed_cycleDays->value())
-                        .arg(ui->ck_use24hour->isChecked())
-                        .arg(ui->btn_workWeek->text())
-                        .arg(ui->ck_employeeLockSchedule->isChecked());
+            shown = QString("%1 %2").arg(dialog->ui->tabWidget->currentIndex()).arg(dialog->ui->cmb_showFrom->isEnabled() ? "on" : "off");
             dialog->reject();
         });
-        window->ui->actionOptions_Settings->trigger();
-        shown += QString(" | %1 %2").arg(window->cycleDates.value(0).toString("MM-dd")).arg(window->cycleDates.size());
-        QTEST(shown, "shown");
-        QTEST(storedOptions(), "written");
+        command < 6 ? window->ui->menuSettings->actions().at(command)->trigger() : window->toolBar->ui->btn_settings->click();
+        QTEST(QString("%1 %2 %3 | %4").arg(shown, window->cycleDates.value(0).toString("MM-dd"))
+                  .arg(window->cycleDates.size()).arg(storedOptions()), "result");
     }
-
-    // Every way in opens its tab; the check box of the week start enables its list.
-    void tabs()
-    {
-        QList<int> tabs;
-        const QList<QAction *> commands = window->ui->menuSettings->actions().mid(0, 6) << nullptr; // last: the tool strip
-        for (QAction *action : commands) {
-            whenDialogOpens<Settings>([&tabs](Settings *dialog) {
-                tabs << dialog->ui->tabWidget->currentIndex();
-                QTest::mouseClick(dialog->ui->ck_showFrom, Qt::LeftButton);
-                QVERIFY(dialog->ui->cmb_showFrom->isEnabled() == dialog->ui->ck_showFrom->isChecked());
-                QTest::keyClick(dialog, Qt::Key_Escape);
-            });
-            action ? action->trigger() : QTest::mouseClick(window->toolBar->ui->btn_settings, Qt::LeftButton);
-        }
-        QCOMPARE(tabs, QList<int>({0, 1, 2, 3, 4, 5, 0}));
-        // Stored unchecked by the last case, then clicked in seven dialogs, each starting from the file.
-        QVERIFY2(storedOptions().contains("show from week=0 "), qPrintable(storedOptions()));
-    }
-
-    // The option makes shifts customers: the dialog's words follow at once, the window once the
-    // dialog has closed, without a restart.
-    void lockVocabulary()
+    // "Employee lock schedule" makes shifts customers: the dialog's words follow at once, the window
+    // once it has closed. The 24-hour box reads the shifts again, dropping a row not saved. The
+    // work-week picker refuses no day, ignores numbers beyond 1 to 7, and is taken when accepted.
+    void optionControls()
     {
         QFile::remove(getAppDataPath(0));
         setView(window, 0);
         window->toolBar->setViewType(1);
         window->settingsChange();
-        QCOMPARE(window->rowLabels, QStringList({"G--S", "H--T"}));
-        QStringList words;
-        whenDialogOpens<Settings>([&words](Settings *dialog) {
-            Ui_Settings *ui = dialog->ui;
-            for (int i = 0; i < 2; ++i) {
-                words << ui->tabWidget->tabText(2) + "/" + ui->shiftTable->horizontalHeaderItem(1)->text() + "/"
-                             + ui->permanentScheduleTable->horizontalHeaderItem(1)->text() + "/"
-                             + (ui->permanentScheduleTable->isColumnHidden(2) ? "hidden" : "shown");
-                QTest::mouseClick(ui->ck_employeeLockSchedule, Qt::LeftButton);
-            }
-            QTest::mouseClick(ui->ck_employeeLockSchedule, Qt::LeftButton);
-            for (int column = 0; column < 3; ++column) // widths a translation may change (the last stretches)
-                words << QString::number(ui->permanentScheduleTable->columnWidth(column));
-            dialog->reject();
-        });
-        window->ui->actionShift_Settings->trigger();
-        QCOMPARE(words, QStringList({"Shifts/Abbreviation/Shift/hidden", "Customers/Cust ID/Customer/shown", "90", "90", "150"}));
-        QVERIFY(!window->ui->statusBar->isVisible());
-        QCOMPARE(window->rowLabels, QStringList({"S", "T"}));
-    }
-
-    // The 24-hour box reads the shifts again, dropping a row not saved; the work-week button takes
-    // the picker's days when it is accepted.
-    void optionControls()
-    {
-        QFile::remove(getAppDataPath(0));
-        Settings dialog;
-        dialog.selSettings(5);
-        dialog.show();
-        QTest::mouseClick(dialog.ui->btn_shiftAdd, Qt::LeftButton);
-        QTest::mouseClick(dialog.ui->ck_use24hour, Qt::LeftButton, {}, QPoint(5, dialog.ui->ck_use24hour->height() / 2));
-        QCOMPARE(dialog.ui->shiftTable->rowCount(), 2);
-        QCOMPARE(dialog.ui->shiftTable->item(0, 2)->text(), QString("08:00"));
-        // With no day ticked the picker refuses and stays open; numbers beyond 1 to 7 are ignored.
+        QStringList seen = window->rowLabels;
         Boxes boxes;
-        for (const bool accept : {true, false}) {
-            whenDialogOpens<WorkWeekSelect>([accept](WorkWeekSelect *picker) {
+        whenDialogOpens<Settings>([&seen](Settings *dialog) {
+            Ui_Settings *ui = dialog->ui;
+            ui->ck_showFrom->click(); // on by default: the click disables the week start's list
+            seen << (ui->cmb_showFrom->isEnabled() ? "on" : "off");
+            for (int i = 0; i < 3; ++i, ui->ck_employeeLockSchedule->click())
+                seen << ui->tabWidget->tabText(2) + "/" + ui->shiftTable->horizontalHeaderItem(1)->text() + "/"
+                            + ui->permanentScheduleTable->horizontalHeaderItem(1)->text() + "/"
+                            + (ui->permanentScheduleTable->isColumnHidden(2) ? "hidden" : "shown");
+            for (int column = 0; column < 3; ++column) // widths a translation may change (the last stretches)
+                seen << QString::number(ui->permanentScheduleTable->columnWidth(column));
+            ui->btn_shiftAdd->click();
+            ui->ck_use24hour->click();
+            seen << QString::number(ui->shiftTable->rowCount()) + " " + ui->shiftTable->item(0, 2)->text();
+            whenDialogOpens<WorkWeekSelect>([](WorkWeekSelect *picker) {
                 for (QCheckBox *day : picker->findChildren<QCheckBox *>())
                     day->setChecked(false);
                 QTest::keyClick(picker, Qt::Key_Return);
                 picker->setSel("3,,9,x,1,7,0");
-                QTest::keyClick(picker, accept ? Qt::Key_Return : Qt::Key_Escape);
+                QTest::keyClick(picker, Qt::Key_Return);
             });
-            QTest::mouseClick(dialog.ui->btn_workWeek, Qt::LeftButton);
+            ui->btn_workWeek->click();
+            dialog->reject();
+        });
+        window->ui->actionShift_Settings->trigger();
+        QCOMPARE(seen + window->rowLabels + boxes.texts,
+                 QStringList({"G--S", "H--T", "off", "Shifts/Abbreviation/Shift/hidden", "Customers/Cust ID/Customer/shown",
+                              "Shifts/Abbreviation/Shift/hidden", "90", "90", "150", "2 08:00", "S", "T",
+                              "Please select one day at least."}));
+        QVERIFY(storedOptions().endsWith("work week=1,3,7") && !window->ui->statusBar->isVisible()
+                && boxes.icons == QList<QMessageBox::Icon>({QMessageBox::Information}));
+    }
+    // Per list: Edit without a current item opens nothing; Add shows the defaults and refuses OK on
+    // an empty record; Save is refused for a duplicate key; Remove, Edit by a double click and a tick
+    // wait for Save. An import replaces the list: "valid" not a number unticks, no "valid" ticks.
+    void lists_data()
+    {
+        // Records added as a plan writes them (the last a duplicate key), the first item edited to, the file imported.
+        QTest::addColumn<QStringList>("input");
+        // The editor for a new record and on Edit | the table after the refused Save, after Remove and Save, after Edit,
+        // a tick and Save | the items | the boxes | the exported header | the items and the table after import and Save.
+        QTest::addColumn<QString>("result");
+        QTest::newRow("holiday") << QStringList{"2026-04-05/2/0/1/Easter 2026-12-25/1/1/1/h2026-12-25", "2027-01-01/3/1/0/NewYear",
+                                                "name,date,repeat,valid\r\nX,2026-05-01,1,yes\r\nY,2026-06-01,0,1\r\n"}
+            << "date=today days=1 infotype=holiday name= repeat=1 valid=1 date=2026-12-25 days=1 infotype=holiday name=h2026-12-25 "
+               "repeat=1 valid=1 | h2026-12-25/2026-12-25/1/1/1 h2026-12-25/2026-12-25/1/1/1 Easter/2026-04-05/2/1/0 NewYear/"
+               "2027-01-01/3/0/1 Easter/2026-04-05/2/0/0 | 01-01 NewYear,2026-04-05 Easter | Please input a name. Save failed! | "
+               "name,date,days,repeat,valid | 05-01 X,2026-06-01 Y+ X/2026-05-01/1/0/1 Y/2026-06-01/1/1/0";
+        // The same employees in another order are another key.
+        QTest::newRow("vacation") << QStringList{"A;B/2026-03-05 B;A/2026-03-05 A;B/2026-03-05", "B/2026-03-09/2/0",
+                                                 "date,staffids\r\n2026-05-01,A;B\r\n"}
+            << "date=today days=1 infotype=vacation note= staffids= valid=1 date=2026-03-02 days=3 infotype=vacation note= "
+               "staffids=A valid=1 | A/2026-03-02/3//1 A/2026-03-02/3//1 A;B/2026-03-05/1//1 B;A/2026-03-05/1//1 B/2026-03-09/2//0 "
+               "A;B/2026-03-05/1//0 B;A/2026-03-05/1//1 | 2026-03-09 B,2026-03-05 A;B,2026-03-05 B;A+ | Please select a employee. "
+               "Save failed! | staffids,date,days,valid,note | 2026-05-01 A;B+ A;B/2026-05-01/1//1";
+        QTest::newRow("lock") << QStringList{"A/2026-03-04 B/2026-03-04", "A/2026-03-06/0", "note,staffids,date,valid\nn,A,2026-05-01,0\n"}
+            << "date=today infotype=lock note= staffids= valid=1 date=2026-03-04 infotype=lock note= staffids=B valid=1 | "
+               "B/2026-03-04///1 B/2026-03-04///1 A/2026-03-04///1 A/2026-03-06///0 A/2026-03-04///0 | 2026-03-06 A,2026-03-04 A | "
+               "Please select a employee. Save failed! | staffids,date,valid,note | 2026-05-01 A A/2026-05-01//n/0";
+    }
+    void lists()
+    {
+        const QString kind = QTest::currentDataTag();
+        QFETCH(QStringList, input);
+        QVERIFY(writePlan("staff A/G B/G | holiday 2026-12-25/1/1 | vacation A/2026-03-02/3 | lock B/2026-03-04"));
+        const QString name = kind == "holiday" ? "t_holidayinfo" : kind == "vacation" ? "t_vacationinfo" : "t_lock_employee";
+        Settings dialog;
+        auto *list = dialog.findChild<QListWidget *>(kind == "holiday" ? "lst_holidays" : kind == "vacation" ? "lst_vacations" : "lst_lock");
+        const auto press = [&](const QString &button) { dialog.findChild<QPushButton *>("btn_" + button + "_" + kind)->click(); };
+        Boxes boxes;
+        list->setCurrentRow(-1);
+        press("edit");
+        QString added, edited;
+        QVector<ASAttribute> records = planRecords(kind, input[0]);
+        for (const ASAttribute &record : records << ASAttribute()) { // the last one cancelled
+            answerEditor(&added, record);
+            press("add");
         }
-        QCOMPARE(dialog.ui->btn_workWeek->text(), QString("1,3,7"));
-        QCOMPARE(boxes.texts, QStringList(2, "Please select one day at least."));
-        QCOMPARE(boxes.icons.value(0), QMessageBox::Information);
+        press("save");
+        QStringList result{table(name)};
+        list->setCurrentRow(list->count() - 1);
+        press("remove");
+        press("save");
+        result << table(name);
+        answerEditor(&edited, planRecords(kind, input[1]).value(0));
+        list->setCurrentRow(0);
+        emit list->itemDoubleClicked(list->item(0));
+        list->item(1)->setCheckState(Qt::Unchecked);
+        QCOMPARE(table(name), result.last());
+        press("save");
+        boxes.texts.removeDuplicates();
+        result = QStringList{added, edited, "|"} + result << table(name) << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
+        QVERIFY(boxes.titles.join("").isEmpty() && boxes.icons.count(QMessageBox::Warning) == boxes.icons.size());
+        const QString path = TestHome::path() + "/" + kind + ".csv";
+        answerFileDialog(path);
+        press("export");
+        QFile exported(path);
+        result << (exported.open(QIODevice::ReadOnly) ? QString(exported.readLine()).trimmed() : "no file") << "|";
+        QVERIFY(writeFile(path, input[2].toUtf8()));
+        answerFileDialog(path);
+        press("import");
+        press("save");
+        QTEST((result << items(list) << table(name)).join(' '), "result");
     }
-
-    void ruleDescription_data()
+    // The picker drops down under its button and is loaded once; ticks add and drop names, a choice replaces.
+    void picker()
     {
-        QTest::addColumn<QString>("value"), QTest::addColumn<QString>("description");
-        QTest::newRow("plain list as it stands") << "2;2;2;2;2;1;0" << "2;2;2;2;2;1;0";
-        QTest::newRow("broken XML is a plain value") << "<dt t='1'" << "<dt t='1'";
-        QTest::newRow("weekly rule") << "<dt t='0' stn='1;;3'/>" << "1;;3";
-        QTest::newRow("no kind is the weekly rule") << "<dt/>" << "";
-        QTest::newRow("range") << "<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>"
-                               << "From:2026-03-01 To:2026-03-31 Week:5 Day of week:1;2";
-        QTest::newRow("one day") << "<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>"
-                                 << "Date:2026-03-02 Week:1 Day of week:1";
-        QTest::newRow("nothing but the kind") << "<x t='2'/>" << "Date: Week: Day of week:";
-    }
-    void ruleDescription()
-    {
-        QFETCH(QString, value);
-        QTEST(Settings::getDateAssignDesc(value), "description");
+        QVERIFY(writePlan("staff A/G B/G"));
+        VacationSettings vacation;
+        LockEmployee lock;
+        QStringList seen; // per opening: the items and the current row, then the field after each click
+        for (RecordEditor *editor : std::initializer_list<RecordEditor *>{&vacation, &lock}) {
+            editor->show();
+            auto *button = editor->findChild<QPushButton *>("btn_selStaff");
+            auto *field = editor->findChild<QLineEdit *>("ed_staffids");
+            field->setText("B");
+            for (int opening : {1, 2}) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                const QPoint corner = button->mapToGlobal(QPoint(0, button->height())); // give or take a frame
+                QVERIFY((editor->picker->pos() - corner).manhattanLength() <= 4);
+                auto *names = editor->picker->findChild<QListWidget *>();
+                seen << QString("%1:%2/%3").arg(opening).arg(items(names)).arg(names->currentRow());
+                for (QListWidgetItem *item : {names->item(0), names->item(1)}) {
+                    editor == &lock ? names->setCurrentItem(item) : item->setCheckState(Qt::CheckState(2 - item->checkState()));
+                    seen << field->text();
+                }
+                editor->picker->close();
+                field->setText("A;B"); // what a new load would show
+            }
+        }
+        QCOMPARE(seen.join(' '), "1:A,B+/-1 A;B A 2:A+,B/-1  B 1:A,B/1 A B 2:A,B/1 A B");
     }
 };
 
