@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the Debian package in build-package/ (scripts/package.sh), unpacks it into a scratch root and checks
-# what it holds: the program and its templates in /opt/rostera, the launcher, the menu entry and metainfo (both
-# validated), the icons; then starts the unpacked program in a fresh home and waits for it to copy the
-# templates. Exits non-zero when anything is wrong.
+# what it holds: the program, its templates and user guide in /opt/rostera, the launcher, the menu entry and
+# metainfo (both validated), the icons; then starts the unpacked program in a fresh home and waits for it to
+# copy the templates. Exits non-zero when anything is wrong.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/deps.sh
@@ -29,6 +29,11 @@ app=opt/rostera
 [ -x "$root/$app/bin/rostera" ] || fail "/$app/bin/rostera missing or not executable"
 for template in src/resources/datas/*.csv; do
     check_file "$app/SharedSupport/datas/$(basename "$template")"
+done
+# The user guide that Help opens, with every picture it shows.
+check_file "$app/SharedSupport/help/index.html"
+for image in $(grep -o 'images/[^"]*\.png' src/resources/help/index.html | sort -u); do
+    check_file "$app/SharedSupport/help/$image"
 done
 
 # The launcher starts the program by its full path, from which the program finds SharedSupport.
