@@ -1,5 +1,9 @@
-// Times generation, check, repair and the grid refresh on a synthetic plan of 1,000 employees,
-// each beside a bare SQLite write or read of the same rows, and prints the medians.
+// Times generation, check, repair and the grid refresh on a synthetic plan, each beside a bare
+// SQLite write or read of the same rows, and prints the medians.
+//   rostera_bench [employees [groups [days]]]   one plan (default 1,000 employees, 20 groups, 31
+//                                               days), and the "Employee Monthly" report to PDF
+//   rostera_bench --scaling                     one table over 31, 365 and 999 days and 100, 1,000
+//                                               and 5,000 employees (50 to a group), with growth
 #include <QApplication>
 #include <QPainter>
 #include <QPrinter>
@@ -22,13 +26,21 @@
 #include "fixture.h"
 #include "ui_rosteramain.h"
 
-static const int kRuns = 5;
-static const int kGroups = 20;
-static const int kStaffPerGroup = 50;
+static int g_runs = 5;
 static const int kShifts = 6;
 static const int kShiftsPerGroup = 5;
-static const int kCycleDays = 31;
 static const QDate kFirstDay(2026, 3, 2);
+
+struct Size
+{
+    int employees = 1000, groups = 20, days = 31;
+};
+
+struct Figures
+{
+    int rows = 0, faults = 0;
+    double generation = 0, check = 0, repair = 0, byEmployee = 0, bySchedule = 0, insert = 0, select = 0;
+};
 
 static QString staffId(int i)
 {
@@ -45,21 +57,24 @@ static QString dateText(const QDate &date)
     return date.toString("yyyy-MM-dd");
 }
 
-// 1,000 employees in 20 groups, 6 shifts, 100 standing rows of 1 to 3 a day, 200 vacations,
-// 50 holidays and 100 locks, drawn from a fixed seed.
-static bool writePlan()
+// The employees spread evenly over the groups, 6 shifts, 5 standing rows of 1 to 3 a day in
+// each group, 50 holidays, and for each month of the span a vacation for every fifth employee
+// and a lock for every tenth, drawn from a fixed seed.
+static bool writePlan(const Size &size)
 {
+    const int vacationCount = qMax(1, size.employees / 5 * size.days / 31);
+    const int lockCount = qMax(1, size.employees / 10 * size.days / 31);
     std::mt19937 draw(20260302);
     const auto between = [&draw](int low, int high) { return std::uniform_int_distribution<int>(low, high)(draw); };
     QVector<ASAttribute> groups, staffs, shifts, rows, holidays, vacations, locks;
-    for (int g = 0; g < kGroups; ++g)
+    for (int g = 0; g < size.groups; ++g)
         groups << record({{"name", groupName(g)}, {"abbreviation", groupName(g)}});
-    for (int i = 0; i < kGroups * kStaffPerGroup; ++i)
-        staffs << record({{"id", staffId(i)}, {"fname", "F"}, {"lname", "L"}, {"groupname", groupName(i / kStaffPerGroup)}});
+    for (int i = 0; i < size.employees; ++i)
+        staffs << record({{"id", staffId(i)}, {"fname", "F"}, {"lname", "L"}, {"groupname", groupName(i * size.groups / size.employees)}});
     for (int s = 0; s < kShifts; ++s)
         shifts << record({{"name", QString("Shift%1").arg(s + 1)}, {"abbreviation", QString("S%1").arg(s + 1)},
                           {"starttm", "08:00"}, {"endtm", "16:00"}});
-    for (int g = 0; g < kGroups; ++g) {
+    for (int g = 0; g < size.groups; ++g) {
         for (int k = 0; k < kShiftsPerGroup; ++k) {
             QStringList perDay;
             for (int day = 0; day < 7; ++day)
@@ -72,18 +87,18 @@ static bool writePlan()
         holidays << record({{"name", QString("Holiday %1").arg(h)}, {"date", dateText(QDate(2026, 1, 1).addDays(h * 7 + 3))},
                             {"days", QString::number(between(1, 2))}, {"repeat", QString::number(h % 2)}, {"valid", "1"}});
     QSet<QString> taken;
-    while (vacations.size() < 200) {
-        const QString id = staffId(between(0, kGroups * kStaffPerGroup - 1));
-        const QString date = dateText(kFirstDay.addDays(between(-3, kCycleDays - 1)));
+    while (vacations.size() < vacationCount) {
+        const QString id = staffId(between(0, size.employees - 1));
+        const QString date = dateText(kFirstDay.addDays(between(-3, size.days - 1)));
         if (!taken.contains(id + date)) {
             taken.insert(id + date);
             vacations << record({{"staffids", id}, {"date", date}, {"days", QString::number(between(1, 5))}, {"valid", "1"}});
         }
     }
     taken.clear();
-    while (locks.size() < 100) {
-        const QString id = staffId(between(0, kGroups * kStaffPerGroup - 1));
-        const QString date = dateText(kFirstDay.addDays(between(0, kCycleDays - 1)));
+    while (locks.size() < lockCount) {
+        const QString id = staffId(between(0, size.employees - 1));
+        const QString date = dateText(kFirstDay.addDays(between(0, size.days - 1)));
         if (!taken.contains(id + date)) {
             taken.insert(id + date);
             locks << record({{"staffids", id}, {"date", date}, {"valid", "1"}});
@@ -96,11 +111,11 @@ static bool writePlan()
            && db->saveLockEmployeeInfo(locks) && db->deleteSchedule("1=1");
 }
 
-// Median of kRuns timings of work, in milliseconds; prepare runs untimed before each.
+// Median of g_runs timings of work, in milliseconds; prepare runs untimed before each.
 static double median(const std::function<void()> &work, const std::function<void()> &prepare = [] {})
 {
     QVector<double> times;
-    for (int run = 0; run < kRuns; ++run) {
+    for (int run = 0; run < g_runs; ++run) {
         prepare();
         QElapsedTimer timer;
         timer.start();
@@ -108,7 +123,7 @@ static double median(const std::function<void()> &work, const std::function<void
         times << timer.nsecsElapsed() / 1e6;
     }
     std::sort(times.begin(), times.end());
-    return times.at(kRuns / 2);
+    return times.at(g_runs / 2);
 }
 
 // The schedule rows of the cycle, as stored.
@@ -168,17 +183,104 @@ static double bareSelect(const QVector<QDate> &dates)
     });
 }
 
-static void report(QTextStream &out, const QString &what, double ms, double bareMs, const QString &bareWhat,
-                   double budgetMs)
+// Writes the plan and times the work on it in a main window showing the whole span.
+static Figures measure(const Size &size, const QString &folder)
 {
-    out << QString("%1 %2 ms   bare %3 %4 ms   ratio %5   budget %6 ms%7\n")
-               .arg(what, -30)
-               .arg(ms, 8, 'f', 1)
-               .arg(bareWhat, -7)
-               .arg(bareMs, 6, 'f', 1)
-               .arg(ms / bareMs, 6, 'f', 1)
-               .arg(budgetMs, 5, 'f', 0)
-               .arg(ms <= budgetMs ? "" : "   OVER BUDGET");
+    Figures f;
+    if (!writePlan(size))
+        return f;
+    QSettings options(getAppDataPath(0), QSettings::IniFormat);
+    options.setValue("Options/show from week", -1);
+    options.setValue("Options/cycle days", size.days);
+    options.setValue("Options/work week", "1,2,3,4,5,6,7");
+    options.sync();
+    RosteraMain window;
+    window.ui->date_current->setDate(kFirstDay);
+    const QVector<QDate> dates = window.cycleDates;
+    const auto generate = [&window, &dates] { window.auto_schedule(dates, true); };
+    // The check appends to the holidays and vacations; a generation run starts from empty lists.
+    const auto fresh = [&window] {
+        window.holidays.clear();
+        window.vacations.clear();
+    };
+    const auto refresh = [&window](int view) {
+        window.toolBar->setViewType(view);
+        return median([&window] {
+            window.prepareTable();
+            window.refreshTable();
+        });
+    };
+    f.generation = median(generate);
+    const QVector<QStringList> rows = storedRows();
+    f.rows = rows.size();
+    f.insert = bareInsert(rows, folder);
+    f.select = bareSelect(dates);
+    QStringList faults;
+    f.check = median([&] { faults = window.checkSchedule(false); }, fresh);
+    f.faults = faults.size();
+    f.repair = median([&] { window.checkSchedule(true); }, [&] { generate(); fresh(); });
+    f.byEmployee = refresh(0);
+    f.bySchedule = refresh(1);
+    return f;
+}
+
+static void line(QTextStream &out, const QString &what, double ms, double bareMs, const QString &bareWhat)
+{
+    out << QString("%1 %2 ms   bare %3 %4 ms   ratio %5\n").arg(what, -30).arg(ms, 8, 'f', 1).arg(bareWhat, -7).arg(bareMs, 6, 'f', 1).arg(ms / bareMs, 6, 'f', 1);
+}
+
+static void single(QTextStream &out, const Size &size, const QString &folder)
+{
+    const Figures f = measure(size, folder);
+    out << QString("Plan: %1 employees in %2 groups, %3 shifts, %4 standing rows, %5 vacations, 50 holidays, %6 locks; "
+                   "cycle of %7 days; median of %8 runs\n")
+               .arg(size.employees).arg(size.groups).arg(kShifts).arg(getDB()->permanentSchedules.size())
+               .arg(rows("select count(*) from t_vacationinfo").value(0).value(0))
+               .arg(rows("select count(*) from t_lock_employee").value(0).value(0)).arg(size.days).arg(g_runs);
+    out << QString("Schedule rows written: %1\n").arg(f.rows);
+    line(out, "generation with save", f.generation, f.insert, "insert");
+    line(out, "check", f.check, f.select, "select");
+    line(out, "repair", f.repair, f.select, "select");
+    line(out, "grid refresh, by employee", f.byEmployee, f.select, "select");
+    line(out, "grid refresh, by schedule", f.bySchedule, f.select, "select");
+    out << QString("Faults reported by the check: %1\n").arg(f.faults);
+}
+
+// Each figure's growth beside the growth of the rows: 1.0 is linear in the rows.
+static void growth(QTextStream &out, const QString &what, const Figures &from, const Figures &to)
+{
+    const double rows = double(to.rows) / from.rows;
+    out << QString("%1 rows x%2   growth per row: generation %3  check %4  repair %5  grid by employee %6  by schedule %7\n")
+               .arg(what, -22).arg(rows, 5, 'f', 1)
+               .arg(to.generation / from.generation / rows, 4, 'f', 2).arg(to.check / from.check / rows, 4, 'f', 2)
+               .arg(to.repair / from.repair / rows, 4, 'f', 2).arg(to.byEmployee / from.byEmployee / rows, 4, 'f', 2)
+               .arg(to.bySchedule / from.bySchedule / rows, 4, 'f', 2);
+}
+
+static void scaling(QTextStream &out, const QString &folder)
+{
+    g_runs = 3;
+    out << QString("Median of %1 runs in ms; x: times the bare SQLite insert (generation) or select (the others) of the same rows\n").arg(g_runs);
+    out << QString("%1 %2 %3 %4 %5 %6 %7 %8 %9").arg("days", 5).arg("staff", 6).arg("rows", 7).arg("generation", 16)
+               .arg("check", 16).arg("repair", 16).arg("grid/employee", 16).arg("grid/schedule", 16).arg("insert", 9)
+        << QString(" %1\n").arg("select", 8);
+    QMap<QPair<int, int>, Figures> all;
+    for (int days : {31, 365, 999}) {
+        for (int employees : {100, 1000, 5000}) {
+            const Figures f = measure({employees, employees / 50, days}, folder);
+            all[{days, employees}] = f;
+            const auto cell = [](double ms, double bare) { return QString("%1 x%2").arg(ms, 8, 'f', 1).arg(ms / bare, -6, 'f', 1); };
+            out << QString("%1 %2 %3 %4 %5 %6 %7 %8 %9").arg(days, 5).arg(employees, 6).arg(f.rows, 7)
+                       .arg(cell(f.generation, f.insert), 16).arg(cell(f.check, f.select), 16).arg(cell(f.repair, f.select), 16)
+                       .arg(cell(f.byEmployee, f.select), 16).arg(cell(f.bySchedule, f.select), 16).arg(f.insert, 9, 'f', 1)
+                << QString(" %1\n").arg(f.select, 8, 'f', 1);
+            out.flush();
+        }
+    }
+    growth(out, "31 to 365 days", all[{31, 1000}], all[{365, 1000}]);
+    growth(out, "31 to 999 days", all[{31, 1000}], all[{999, 1000}]);
+    growth(out, "1,000 to 5,000 staff", all[{31, 1000}], all[{31, 5000}]);
+    growth(out, "365 days, to 5,000", all[{365, 1000}], all[{365, 5000}]);
 }
 
 // "Employee Monthly" of every group to a PDF, beside the same number of pages of plain text drawn
@@ -197,7 +299,7 @@ static void reportBench(QTextStream &out, const QString &folder)
     });
     const int pages = qMax(reports.pageNo, 1);
     const int linesPerPage = getDB()->staffs.size() / pages + 1;
-    const QString line = staffId(0) + QString(" S1").repeated(kCycleDays);
+    const QString line = staffId(0) + QString(" S1").repeated(31);
     const double plainMs = median([&] {
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -212,7 +314,7 @@ static void reportBench(QTextStream &out, const QString &folder)
         }
     });
     out << QString("Report pages: %1 (%2 rows a page)\n").arg(pages).arg(linesPerPage);
-    report(out, "Employee Monthly to PDF", ms, plainMs, "text", 2000);
+    out << QString("%1 %2 ms   plain text %3 ms   ratio %4\n").arg("Employee Monthly to PDF", -30).arg(ms, 8, 'f', 1).arg(plainMs, 6, 'f', 1).arg(ms / plainMs, 5, 'f', 1);
 }
 
 int main(int argc, char **argv)
@@ -221,57 +323,21 @@ int main(int argc, char **argv)
     TestHome home;
     QApplication app(argc, argv);
     QTextStream out(stdout);
-    if (!getDB()->openDB(QString()) || !writePlan()) {
-        out << "could not write the plan\n";
+    const QStringList args = app.arguments().mid(1);
+    Size size;
+    size.employees = qMax(1, args.value(0, "1000").toInt());
+    size.groups = qBound(1, args.value(1, "20").toInt(), size.employees);
+    size.days = qBound(1, args.value(2, "31").toInt(), 999);
+    if (!getDB()->openDB(QString())) {
+        out << "could not open the database\n";
         return 1;
     }
-    QSettings options(getAppDataPath(0), QSettings::IniFormat);
-    options.setValue("Options/show from week", -1);
-    options.setValue("Options/cycle days", kCycleDays);
-    options.setValue("Options/work week", "1,2,3,4,5,6,7");
-    options.sync();
-
-    RosteraMain window;
-    window.ui->date_current->setDate(kFirstDay);
-    const QVector<QDate> dates = window.cycleDates;
-    const auto generate = [&window, &dates] { window.auto_schedule(dates, true); };
-    // The check appends to the holidays and vacations; a generation run starts from empty lists.
-    const auto fresh = [&window] {
-        window.holidays.clear();
-        window.vacations.clear();
-    };
-
-    out << QString("Plan: %1 employees in %2 groups, %3 shifts, %4 standing rows, 200 vacations, 50 holidays, 100 locks; "
-                   "cycle of %5 dates; median of %6 runs\n")
-               .arg(getDB()->staffs.size())
-               .arg(getDB()->groups.size())
-               .arg(getDB()->shifts.size())
-               .arg(getDB()->permanentSchedules.size())
-               .arg(dates.size())
-               .arg(kRuns);
-    const double generation = median(generate);
-    const QVector<QStringList> rows = storedRows();
-    const double insert = bareInsert(rows, TestHome::path());
-    const double select = bareSelect(dates);
-    out << QString("Schedule rows written: %1\n").arg(rows.size());
-    report(out, "generation with save", generation, insert, "insert", 1000);
-    QStringList faults;
-    report(out, "check", median([&] { faults = window.checkSchedule(false); }, fresh), select, "select", 300);
-    report(out, "repair", median([&] { window.checkSchedule(true); }, [&] { generate(); fresh(); }), select, "select", 300);
-    window.toolBar->setViewType(0);
-    report(out, "grid refresh, by employee", median([&] {
-               window.prepareTable();
-               window.refreshTable();
-           }),
-           select, "select", 200);
-    window.toolBar->setViewType(1);
-    report(out, "grid refresh, by schedule", median([&] {
-               window.prepareTable();
-               window.refreshTable();
-           }),
-           select, "select", 200);
-    out << QString("Faults reported by the check: %1\n").arg(faults.size());
-    reportBench(out, TestHome::path());
+    if (args.value(0) == "--scaling") {
+        scaling(out, TestHome::path());
+    } else {
+        single(out, size, TestHome::path());
+        reportBench(out, TestHome::path());
+    }
     out.flush();
     getDB()->closeDB();
     return 0;
