@@ -19,6 +19,12 @@ private slots:
         QCOMPARE(QList<int>({r.attr("empty", 5), r.attr("word", 5), r.attr("none", 5), r.attr("lead", 5), r.attr("neg", 5)}), QList<int>({0, 0, 5, 10, -42}));
         QCOMPARE(QList<float>({r.attr("word", 2.5f), r.attr("none", 2.5f), r.attr("half", 2.5f)}), QList<float>({0.0f, 2.5f, 1.5f}));
         QCOMPARE(show({r}), QString("big=1.23457e+06 empty= half=1.5 lead=010 neg=-42 word=abc")); // and reading added nothing
+        for (const char *text : {"0", "7", "007", "999999", "1000000", "-0", "+5", " 5", "2.5", "1e3", "", "x"}) // whole numbers take a short way to the same float
+            QVERIFY2(std::signbit(record({{"n", text}}).attr("n", 9.0f)) == std::signbit(QString(text).toFloat()) && record({{"n", text}}).attr("n", 9.0f) == QString(text).toFloat(), text);
+        QStringList written, general;
+        for (const float value : {0.0f, -0.0f, 3.0f, 999999.0f, 1e6f, 2.5f, 123456.7f, -4.0f}) // and are written as the general form writes them
+            r.setAttr("f", value), written << r.attr("f", QString()), general << QString("%1").arg(double(value));
+        QCOMPARE(written, general);
         r.clear();
         const QString rule = record({{"t", "0"}, {"stn", "2;2;2;2;2;1;0"}}).getXmlAttrs("dt");
         QVERIFY2(r.values().isEmpty() && rule.startsWith("<dt ") && rule.endsWith("/>\n") && rule.count('\n') == 1 && rule.contains(" t=\"0\"") && rule.contains(" stn=\"2;2;2;2;2;1;0\""), qPrintable(rule));

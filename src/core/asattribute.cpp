@@ -4,6 +4,8 @@
 #include <QDomElement>
 #include <QDomNamedNodeMap>
 
+#include <cmath>
+
 void ASAttribute::clear()
 {
     m_values.clear();
@@ -32,10 +34,23 @@ int ASAttribute::attr(const QString &key, int def) const
     return it == m_values.constEnd() ? def : it.value().toInt(nullptr, 10);
 }
 
+// Counters are read for every candidate of a generation, and they are small whole numbers: those
+// are read digit by digit, to the float that the general conversion would give.
 float ASAttribute::attr(const QString &key, float def) const
 {
     const auto it = m_values.constFind(key);
-    return it == m_values.constEnd() ? def : it.value().toFloat();
+    if (it == m_values.constEnd())
+        return def;
+    const QString &text = it.value();
+    if (text.isEmpty() || text.size() > 6)
+        return text.toFloat();
+    int number = 0;
+    for (const QChar c : text) {
+        if (c < u'0' || c > u'9')
+            return text.toFloat();
+        number = number * 10 + (c.unicode() - u'0');
+    }
+    return float(number);
 }
 
 void ASAttribute::setAttr(const QString &key, const QString &value)
@@ -48,10 +63,12 @@ void ASAttribute::setAttr(const QString &key, int value)
     m_values.insert(key, QString::number(value));
 }
 
-// 'g' with the default precision: at most 6 significant digits.
+// 'g' with the default precision: at most 6 significant digits. Below a million a whole number
+// has no exponent there, and is written directly, as it is for every counter.
 void ASAttribute::setAttr(const QString &key, float value)
 {
-    m_values.insert(key, QString("%1").arg(double(value)));
+    const bool small = value >= 0 && value < 1e6f && !std::signbit(value) && value == float(int(value));
+    m_values.insert(key, small ? QString::number(int(value)) : QString("%1").arg(double(value)));
 }
 
 void ASAttribute::getXmlAttrs(QDomElement &e) const

@@ -27,10 +27,23 @@ QStringList RosteraMain::checkSchedule(bool repair)
     // The employees met, with the shift of each date. They live over all rows, so that one
     // employee on two shifts of a date is found; kept by group, as they are looked up by group.
     QHash<QString, QVector<ASAttribute>> staffLists;
+    // Each employee is looked up once per group, as an id may turn up in every cell.
+    QHash<QString, int> staffAt;
+    const auto findStaff = [&](QVector<ASAttribute> &staffList, const QString &groupname, const QString &id) {
+        const QString key = groupname + QChar(0) + id;
+        auto it = staffAt.constFind(key);
+        if (it == staffAt.constEnd())
+            it = staffAt.insert(key, checkStaffExist(staffList, groupname, id));
+        return *it;
+    };
     QVector<bool> holidayAt;
-    for (const QDate &date : cycleDates)
+    QStringList dateTexts;
+    for (const QDate &date : cycleDates) {
         holidayAt.append(checkHoliday(date));
+        dateTexts.append(date.toString("yyyy-MM-dd"));
+    }
     QVector<ASAttribute> records;
+    std::optional<ScheduleIndex> recordAt;
     QVector<ASAttribute> updates;
     QString current;
     bool firstRow = true;
@@ -43,6 +56,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
             current = groupname;
             records.clear();
             db->schedule(records, QString("groupname='%1' and date>='%2' and date<='%3'").arg(groupname, first, last));
+            recordAt.emplace(records);
         }
         // A group that was never generated is not reported.
         if (records.isEmpty())
@@ -52,8 +66,10 @@ QStringList RosteraMain::checkSchedule(bool repair)
         const QString shownGroup = groupname.isEmpty() ? tr("<None>") : groupname;
         for (int p = 0; p < cycleDates.size(); ++p) {
             const QDate date = cycleDates.at(p);
-            const QString dateText = date.toString("yyyy-MM-dd");
-            ASAttribute record = getDaySchedule(records, groupname, shift, dateText);
+            const QString &dateText = dateTexts.at(p);
+            // As getDaySchedule answers: the first record of the cell, else none.
+            const int at = recordAt->find(dateText, groupname, shift);
+            ASAttribute record = at < 0 ? ASAttribute() : records.at(at);
             QStringList staffs = record.attr("staffs", QString()).split(';', Qt::SkipEmptyParts);
             const bool holiday = holidayAt.at(p);
             const int need = holiday ? 0 : getStaffNum(row.attr("daystaffnum", QString()), date, date.dayOfWeek() - 1);
@@ -69,7 +85,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
             };
             for (int i = 0; !holiday && i < staffs.size() && !full(); ++i) {
                 const QString id = staffs.at(i);
-                const int s = checkStaffExist(staffList, groupname, id);
+                const int s = findStaff(staffList, groupname, id);
                 const QString key = QString::number(p);
                 if (s < 0)
                     fault(i, tr("Date:[%1]Group:[%2]Shift:[%3],Employee [%4] doesn't exist,don't assign the employee"));

@@ -67,3 +67,19 @@ bool VacationIndex::covers(const QDate &date, const QString &staffId) const
     }
     return false;
 }
+
+static QString staffKey(const QString &groupname, const QString &id)
+{
+    return groupname + QChar(0) + id;
+}
+
+StaffPositions::StaffPositions(const QVector<ASAttribute> &staffs)
+{
+    for (int i = staffs.size() - 1; i >= 0; --i)
+        m_first.insert(staffKey(staffs.at(i).attr("groupname", QString()), staffs.at(i).attr("id", QString())), i);
+}
+
+int StaffPositions::find(const QString &groupname, const QString &id) const
+{
+    return m_first.value(staffKey(groupname, id), -1);
+}

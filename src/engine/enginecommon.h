@@ -5,7 +5,11 @@
 #include <QString>
 #include <QVector>
 
-class ASAttribute;
+#include <optional>
+
+#include "core/asattribute.h"
+#include "core/schedulelookup.h"
+
 class RosteraMain;
 
 // In "View One Group" and "View One Employee" the schedule commands work on the group of
@@ -33,7 +37,8 @@ bool inSpan(const QDate &date, const QDate &first, int days);
 bool vacationCovers(const ASAttribute &vacation, const QDate &date, const QString &staffId);
 
 // The vacation records by the employees they name, for a run that tests many employees. It
-// answers as RosteraMain::checkVacation over the same list, which must not change meanwhile.
+// answers as a scan of the list for a record that vacationCovers; the list must not change
+// meanwhile.
 class VacationIndex
 {
 public:
@@ -42,4 +47,56 @@ public:
 
 private:
     QHash<QString, QVector<const ASAttribute *>> m_byId;
+};
+
+// The position of the first employee of each group and id in a list of employees.
+class StaffPositions
+{
+public:
+    explicit StaffPositions(const QVector<ASAttribute> &staffs);
+    int find(const QString &groupname, const QString &id) const;
+
+private:
+    QHash<QString, int> m_first;
+};
+
+// Answers of checkHoliday by date, worked out as they are asked for.
+struct HolidayAnswers
+{
+    explicit HolidayAnswers(const QVector<ASAttribute> &) {}
+    QHash<QDate, bool> known;
+};
+
+// Answers worked out from a list of records, kept while the list stays as it is. The cache holds
+// a shared copy of the list: any change to the list detaches it from the copy, so the next call
+// meets another buffer and works the answers out anew, from the copy it then keeps.
+template <typename Answers>
+class ListCache
+{
+public:
+    Answers &of(const QVector<ASAttribute> &list)
+    {
+        if (!m_answers || list.constData() != m_list.constData() || list.size() != m_list.size()) {
+            m_list = list;
+            m_answers.emplace(m_list);
+        }
+        return *m_answers;
+    }
+
+private:
+    QVector<ASAttribute> m_list;
+    std::optional<Answers> m_answers;
+};
+
+// What one generation run looks up for all its groups: the kept and the written records by
+// cell, and the ids of each date's valid locks in the order the table gives them.
+struct GenerationRun
+{
+    GenerationRun(QVector<ASAttribute> &keep, QVector<ASAttribute> &out)
+        : keptAt(keep), outAt(out)
+    {
+    }
+    ScheduleIndex keptAt;
+    ScheduleIndex outAt;
+    QHash<QString, QStringList> lockedIds;
 };

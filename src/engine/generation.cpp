@@ -66,6 +66,13 @@ bool RosteraMain::auto_schedule(const QVector<QDate> &dates, bool deleteExisting
     db->deleteSchedule(filter);
     db->holidayInfo(holidays, "valid=1");
     db->vacationInfo(vacations, "valid=1");
+    GenerationRun run(keep, out);
+    generationRun = &run;
+    // The valid locks by date, as a read of each date's locks would give them.
+    QVector<ASAttribute> locks;
+    db->lockEmployeeInfo(locks, "valid=1");
+    for (const ASAttribute &lock : locks)
+        run.lockedIds[lock.attr("date", QString())].append(lock.attr("staffids", QString()));
 
     // Groups are runs of adjacent rows: a group whose rows are apart is scheduled twice. The
     // first row taken also closes a run, the empty one under the empty group name: it writes
@@ -92,14 +99,14 @@ bool RosteraMain::auto_schedule(const QVector<QDate> &dates, bool deleteExisting
     // Kept records that no row touched survive only in the lock mode; otherwise they are lost
     // even when the user chose to keep the schedule.
     if (employeeLockSchedule) {
-        ScheduleIndex outAt(out);
         for (const ASAttribute &kept : keep) {
-            if (outAt.find(kept.attr("date", QString()), kept.attr("groupname", QString()),
-                           kept.attr("shiftname", QString()))
+            if (run.outAt.find(kept.attr("date", QString()), kept.attr("groupname", QString()),
+                               kept.attr("shiftname", QString()))
                 < 0)
-                outAt.append(kept);
+                run.outAt.append(kept);
         }
     }
+    generationRun = nullptr;
     if (!db->saveSchedule(out)) {
         QMessageBox::warning(this, QString(), tr("Save schedule information failed!"), QMessageBox::Ok);
         return false;
@@ -108,7 +115,8 @@ bool RosteraMain::auto_schedule(const QVector<QDate> &dates, bool deleteExisting
 }
 
 // The dates filled are always those of the displayed cycle, whatever the caller deleted and
-// kept: the specified-date command relies on that coupling as it stands.
+// kept: the specified-date command relies on that coupling as it stands. It runs only inside
+// auto_schedule, whose lookups of keep and out it shares.
 void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, QVector<ASAttribute> &keep,
                                 QVector<ASAttribute> &out, const QVector<QDate> &)
 {
@@ -119,6 +127,10 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
     if (n == 0)
         return;
     QVector<ASAttribute *> ring;
+    // getStaff's answers over the ring: the first position of each id.
+    QHash<QString, int> ringAt;
+    for (int i = n - 1; i >= 0; --i)
+        ringAt.insert(copies.at(i).attr("id", QString()), i);
     for (ASAttribute &copy : copies)
         ring.append(&copy);
 
@@ -134,8 +146,8 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
     // The holidays and the need of each row on each date are worked out once for all passes.
     QVector<bool> holidayAt;
     QVector<QVector<int>> needs;
-    const ScheduleIndex keptAt(keep);
-    ScheduleIndex outAt(out);
+    const ScheduleIndex &keptAt = generationRun->keptAt;
+    ScheduleIndex &outAt = generationRun->outAt;
     assignStats.clear();
     for (int p = 0; p < cycleDates.size(); ++p) {
         const QDate date = cycleDates.at(p);
@@ -152,7 +164,7 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
             if (kept < 0)
                 continue;
             for (const QString &id : keep.at(kept).attr("staffs", QString()).split(';', Qt::SkipEmptyParts)) {
-                const int s = getStaff(ring, id);
+                const int s = ringAt.value(id, -1);
                 if (s < 0)
                     continue;
                 if (ring[s]->attr(QString::number(p), QString()).isEmpty())
@@ -181,10 +193,8 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
             QVector<ASAttribute *> locked;
             if (pass == 0) {
                 // A lock naming several employees matches nobody, as its text is compared whole.
-                QVector<ASAttribute> locks;
-                getDB()->lockEmployeeInfo(locks, QString("date='%1' and valid=1").arg(dateText));
-                for (const ASAttribute &lock : locks) {
-                    const int s = getStaff(ring, lock.attr("staffids", QString()));
+                for (const QString &ids : generationRun->lockedIds.value(dateText)) {
+                    const int s = ringAt.value(ids, -1);
                     if (s >= 0)
                         locked.append(ring[s]);
                 }
@@ -197,7 +207,7 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
                 QString designated;
                 if (pass == 1) {
                     designated = row.attr("employee_name", QString());
-                    if (designated.isEmpty() || getStaff(ring, designated) < 0)
+                    if (designated.isEmpty() || ringAt.value(designated, -1) < 0)
                         continue;
                 }
                 // The output's record, else the kept one, else a new one.

@@ -5,7 +5,7 @@
 #include "mainwindow/rosteramain.h"
 #include "persistence/databasefunc.h"
 
-bool RosteraMain::checkHoliday(const QDate &date)
+static bool isHoliday(const QVector<ASAttribute> &holidays, const QDate &date)
 {
     for (const ASAttribute &holiday : holidays) {
         const QDate first = dateOf(holiday.attr("date", QString()));
@@ -29,14 +29,20 @@ bool RosteraMain::checkHoliday(const QDate &date)
     return false;
 }
 
+// Both are asked for every date and candidate of a run: each answer is worked out once for the
+// list as it stands.
+bool RosteraMain::checkHoliday(const QDate &date)
+{
+    QHash<QDate, bool> &known = holidayAnswers.of(holidays).known;
+    auto it = known.constFind(date);
+    if (it == known.constEnd())
+        it = known.insert(date, isHoliday(holidays, date));
+    return *it;
+}
+
 bool RosteraMain::checkVacation(const QDate &date, const QString &staffId)
 {
-    // The substring test is only a quick filter: "1" must not match "11;12".
-    for (const ASAttribute &vacation : vacations) {
-        if (vacation.attr("staffids", QString()).contains(staffId) && vacationCovers(vacation, date, staffId))
-            return true;
-    }
-    return false;
+    return vacationAnswers.of(vacations).covers(date, staffId);
 }
 
 QString RosteraMain::getNextValidStaff(const QDate &date, QVector<ASAttribute *> &staffs, int &index, int dayPos,
@@ -127,11 +133,10 @@ int RosteraMain::checkStaffExist(QVector<ASAttribute> &list, const QString &grou
         if (matches(list.at(i)))
             return i;
     }
-    for (const ASAttribute &staff : getDB()->staffs) {
-        if (matches(staff)) {
-            list.append(staff);
-            return list.size() - 1;
-        }
-    }
-    return -1;
+    const QVector<ASAttribute> &staffs = getDB()->staffs;
+    const int at = staffPositions.of(staffs).find(groupname, id);
+    if (at < 0)
+        return -1;
+    list.append(staffs.at(at));
+    return list.size() - 1;
 }

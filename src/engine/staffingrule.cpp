@@ -1,31 +1,66 @@
+#include <QHash>
 #include <QStringList>
 
 #include "mainwindow/rosteramain.h"
 
-int RosteraMain::getStaffNum(const QString &daystaffnum, const QDate &date, int dayIndex)
+namespace {
+
+// A "daystaffnum" value as read: a specified-date rule, or the numbers by weekday.
+struct Demand
 {
+    bool byDate = false;
+    QDate from, to;
+    QStringList weeks, days;
+    // An empty list asks for the day index itself.
+    bool dayIndex = false;
+    QStringList numbers;
+};
+
+// Each value is read once: the same few are asked for every row and date of a run.
+const Demand &demandOf(const QString &daystaffnum)
+{
+    static QHash<QString, Demand> read;
+    auto it = read.constFind(daystaffnum);
+    if (it != read.constEnd())
+        return *it;
+    Demand demand;
     ASAttribute rule;
     const bool isRule = rule.setXmlAttrs(daystaffnum);
     if (isRule && rule.attr("t", 0) != 0) {
+        demand.byDate = true;
+        demand.from = QDate::fromString(rule.attr("sdt", QString()), "yyyy-MM-dd");
+        demand.to = QDate::fromString(rule.attr("edt", QString()), "yyyy-MM-dd");
+        demand.weeks = rule.attr("week", QString()).split(';');
+        demand.days = rule.attr("dayweek", QString()).split(';');
+    } else {
+        const QString list = isRule ? rule.attr("stn", QString()) : daystaffnum;
+        demand.dayIndex = list.isEmpty();
+        demand.numbers = list.split(';', Qt::SkipEmptyParts);
+    }
+    return *read.insert(daystaffnum, demand);
+}
+
+} // namespace
+
+int RosteraMain::getStaffNum(const QString &daystaffnum, const QDate &date, int dayIndex)
+{
+    const Demand &demand = demandOf(daystaffnum);
+    if (demand.byDate) {
         // A specified-date rule carries no number: a matching date needs exactly one employee.
-        const QDate from = QDate::fromString(rule.attr("sdt", QString()), "yyyy-MM-dd");
-        const QDate to = QDate::fromString(rule.attr("edt", QString()), "yyyy-MM-dd");
-        if (date < from || date > to)
+        if (date < demand.from || date > demand.to)
             return 0;
         const int weekOfMonth = (date.day() - 1) / 7 + 1;
-        if (!rule.attr("week", QString()).split(';').contains(QString::number(weekOfMonth)))
+        if (!demand.weeks.contains(QString::number(weekOfMonth)))
             return 0;
-        if (!rule.attr("dayweek", QString()).split(';').contains(QString::number(dayIndex + 1)))
+        if (!demand.days.contains(QString::number(dayIndex + 1)))
             return 0;
         return 1;
     }
-    const QString list = isRule ? rule.attr("stn", QString()) : daystaffnum;
     // An empty value asks for the day index itself (0 on Monday up to 6 on Sunday); rows
     // created but never edited rely on this.
-    if (list.isEmpty())
+    if (demand.dayIndex)
         return dayIndex;
-    const QStringList numbers = list.split(';', Qt::SkipEmptyParts);
-    const int number = dayIndex < numbers.size() ? numbers.at(dayIndex).toInt(nullptr, 10) : 0;
+    const int number = dayIndex < demand.numbers.size() ? demand.numbers.at(dayIndex).toInt(nullptr, 10) : 0;
     return qMax(number, 0);
 }
 

@@ -8,6 +8,7 @@
 #include <QVector>
 
 #include "core/asattribute.h"
+#include "engine/enginecommon.h"
 
 class Ui_RosteraMain;
 class ToolBar;
@@ -60,6 +61,14 @@ public:
     int tipCol = -1;
     QString tipText;
     int editorHeight = 0;
+
+    // The answers of checkHoliday and checkVacation, kept while those lists stay as they are.
+    ListCache<HolidayAnswers> holidayAnswers;
+    ListCache<VacationIndex> vacationAnswers;
+    // The positions of the database's employees, for checkStaffExist.
+    ListCache<StaffPositions> staffPositions;
+    // Set by auto_schedule while it runs, for its calls of scheduleGroup.
+    GenerationRun *generationRun = nullptr;
 
     // The generator's only source of chance: the standard rand, never seeded. A test may
     // put a scripted source here to reproduce a run.

@@ -55,8 +55,8 @@ bool readTable(QSqlDatabase &db, const QString &sql, const char *infotype, std::
 bool runBatch(QSqlDatabase &db, const QStringList &statements, QString *error = nullptr)
 {
     db.transaction();
+    QSqlQuery query(db);
     for (const QString &sql : statements) {
-        QSqlQuery query(db);
         if (!query.exec(sql)) {
             if (error)
                 *error = query.lastError().text();
