@@ -70,7 +70,6 @@ private slots:
         } else if (kind != "demand") {
             (kind == "holiday" ? window->holidays : window->vacations) = planRecords(kind, value);
             answer = QVariant(window->checkHoliday(date) || window->checkVacation(date, "1")).toString();
-            QCOMPARE(VacationIndex(window->vacations).covers(date, "1"), kind == "vacation" && answer == "true");
             window->holidays.clear(); window->vacations.clear();
         }
         QCOMPARE(answer, field("answer"));

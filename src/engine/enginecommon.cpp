@@ -45,24 +45,22 @@ bool inSpan(const QDate &date, const QDate &first, int days)
     return first <= date && date <= first.addDays(days - 1);
 }
 
-bool vacationCovers(const ASAttribute &vacation, const QDate &date, const QString &staffId)
-{
-    return inSpan(date, dateOf(vacation.attr("date", QString())), vacation.attr("days", 1))
-           && vacation.attr("staffids", QString()).split(';').contains(staffId);
-}
-
 VacationIndex::VacationIndex(const QVector<ASAttribute> &vacations)
 {
     for (const ASAttribute &vacation : vacations) {
+        const Span span{dateOf(vacation.attr("date", QString())), vacation.attr("days", 1)};
         for (const QString &id : vacation.attr("staffids", QString()).split(';'))
-            m_byId[id].append(&vacation);
+            m_byId[id].append(span);
     }
 }
 
 bool VacationIndex::covers(const QDate &date, const QString &staffId) const
 {
-    for (const ASAttribute *vacation : m_byId.value(staffId)) {
-        if (vacationCovers(*vacation, date, staffId))
+    const auto spans = m_byId.constFind(staffId);
+    if (spans == m_byId.constEnd())
+        return false;
+    for (const Span &span : *spans) {
+        if (inSpan(date, span.first, span.days))
             return true;
     }
     return false;

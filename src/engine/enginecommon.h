@@ -33,12 +33,9 @@ QDate dateOf(const QString &text);
 // and neither does a span of 0 days.
 bool inSpan(const QDate &date, const QDate &first, int days);
 
-// Whether the vacation record names the employee, as a whole item of "staffids", on the date.
-bool vacationCovers(const ASAttribute &vacation, const QDate &date, const QString &staffId);
-
-// The vacation records by the employees they name, for a run that tests many employees. It
-// answers as a scan of the list for a record that vacationCovers; the list must not change
-// meanwhile.
+// The spans of the vacation records by the employees they name, each a whole item of
+// "staffids" ("11;12" does not name "1"): whether a record names the employee and its days
+// cover the date.
 class VacationIndex
 {
 public:
@@ -46,7 +43,12 @@ public:
     bool covers(const QDate &date, const QString &staffId) const;
 
 private:
-    QHash<QString, QVector<const ASAttribute *>> m_byId;
+    struct Span
+    {
+        QDate first;
+        int days;
+    };
+    QHash<QString, QVector<Span>> m_byId;
 };
 
 // The position of the first employee of each group and id in a list of employees.

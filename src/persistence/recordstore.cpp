@@ -27,15 +27,21 @@ bool readTable(QSqlDatabase &db, const QString &sql, const char *infotype, std::
                QVector<ASAttribute> &out)
 {
     QSqlQuery query(db);
+    // Each row is read once: the driver need not keep the rows already read.
+    query.setForwardOnly(true);
     if (!query.exec(sql))
         return false;
     const int available = query.record().count();
+    const QString type = infotype;
+    QStringList keys;
+    for (const Column &column : columns)
+        keys << column.key;
     while (query.next()) {
         ASAttribute record;
-        record.setAttr("infotype", QString(infotype));
+        record.setAttr("infotype", type);
         int position = 0;
         for (const Column &column : columns) {
-            const QString key = column.key;
+            const QString &key = keys.at(position);
             if (position >= available)
                 record.setAttr(key, QString());
             else if (column.kind == Kind::Int)
