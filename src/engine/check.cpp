@@ -42,6 +42,8 @@ QStringList RosteraMain::checkSchedule(bool repair)
         holidayAt.append(checkHoliday(date));
         dateTexts.append(date.toString("yyyy-MM-dd"));
     }
+    const GroupRecords recordsOf([db](QVector<ASAttribute> &list, QString filter) { return db->schedule(list, filter); },
+                                 QString(" and date>='%1' and date<='%2'").arg(first, last));
     QVector<ASAttribute> records;
     std::optional<ScheduleIndex> recordAt;
     QVector<ASAttribute> updates;
@@ -54,8 +56,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
         if (firstRow || groupname != current) {
             firstRow = false;
             current = groupname;
-            records.clear();
-            db->schedule(records, QString("groupname='%1' and date>='%2' and date<='%3'").arg(groupname, first, last));
+            records = recordsOf.of(groupname);
             recordAt.emplace(records);
         }
         // A group that was never generated is not reported.

@@ -81,3 +81,21 @@ int StaffPositions::find(const QString &groupname, const QString &id) const
 {
     return m_first.value(staffKey(groupname, id), -1);
 }
+
+GroupRecords::GroupRecords(const Read &read, const QString &rest)
+    : m_read(read), m_rest(rest)
+{
+    QVector<ASAttribute> all;
+    m_read(all, "typeof(groupname)='text'" + rest);
+    for (const ASAttribute &record : all)
+        m_byGroup[record.attr("groupname", QString())].append(record);
+}
+
+QVector<ASAttribute> GroupRecords::of(const QString &group) const
+{
+    if (!group.contains('\''))
+        return m_byGroup.value(group);
+    QVector<ASAttribute> records;
+    m_read(records, QString("groupname='%1'").arg(group) + m_rest);
+    return records;
+}

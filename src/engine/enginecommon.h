@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 #include "core/asattribute.h"
@@ -90,15 +91,34 @@ private:
     std::optional<Answers> m_answers;
 };
 
+// The records of each group as a read whose filter begins "groupname='<group>'" gives them,
+// from one read of all groups, where rows whose group is no text match none, in the same order.
+// A name with an apostrophe changes the meaning of that filter, so such a group is read itself.
+class GroupRecords
+{
+public:
+    using Read = std::function<bool(QVector<ASAttribute> &, QString)>;
+    // rest: what follows the group's condition in the filter, empty or " and ...".
+    GroupRecords(const Read &read, const QString &rest);
+    QVector<ASAttribute> of(const QString &group) const;
+
+private:
+    Read m_read;
+    QString m_rest;
+    QHash<QString, QVector<ASAttribute>> m_byGroup;
+};
+
 // What one generation run looks up for all its groups: the kept and the written records by
-// cell, and the ids of each date's valid locks in the order the table gives them.
+// cell, the employees by group, and the ids of each date's valid locks in the order the table
+// gives them.
 struct GenerationRun
 {
-    GenerationRun(QVector<ASAttribute> &keep, QVector<ASAttribute> &out)
-        : keptAt(keep), outAt(out)
+    GenerationRun(QVector<ASAttribute> &keep, QVector<ASAttribute> &out, const GroupRecords::Read &readStaff)
+        : keptAt(keep), outAt(out), staffOf(readStaff, QString())
     {
     }
     ScheduleIndex keptAt;
     ScheduleIndex outAt;
+    GroupRecords staffOf;
     QHash<QString, QStringList> lockedIds;
 };

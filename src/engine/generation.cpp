@@ -66,7 +66,7 @@ bool RosteraMain::auto_schedule(const QVector<QDate> &dates, bool deleteExisting
     db->deleteSchedule(filter);
     db->holidayInfo(holidays, "valid=1");
     db->vacationInfo(vacations, "valid=1");
-    GenerationRun run(keep, out);
+    GenerationRun run(keep, out, [db](QVector<ASAttribute> &list, QString filter) { return db->staffInfo(list, filter); });
     generationRun = &run;
     // The valid locks by date, as a read of each date's locks would give them.
     QVector<ASAttribute> locks;
@@ -121,8 +121,7 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
                                 QVector<ASAttribute> &out, const QVector<QDate> &)
 {
     // The working copies (the ring) carry the counters and, per date position, the shift taken.
-    QVector<ASAttribute> copies;
-    getDB()->staffInfo(copies, QString("groupname='%1'").arg(groupname));
+    QVector<ASAttribute> copies = generationRun->staffOf.of(groupname);
     const int n = copies.size();
     if (n == 0)
         return;

@@ -154,6 +154,10 @@ void RosteraMain::refreshTable()
     const QString dateFilter = QString("date>='%1' and date<='%2'")
                                    .arg(cycleDates.first().toString("yyyy-MM-dd"), cycleDates.last().toString("yyyy-MM-dd"));
     const int view = toolBar->getViewType();
+    // getDatePos's answers: the first column of each date.
+    QHash<QDate, int> columnOf;
+    for (int column = int(cycleDates.size()) - 1; column >= 0; --column)
+        columnOf.insert(cycleDates.at(column), column);
     auto cellAt = [table](int row, int column) {
         if (!table->item(row, column))
             table->setItem(row, column, new QTableWidgetItem);
@@ -172,7 +176,7 @@ void RosteraMain::refreshTable()
             return;
 
         for (const ASAttribute &record : records) {
-            const int column = getDatePos(cycleDates, QDate::fromString(record.attr("date", QString()), "yyyy-MM-dd"));
+            const int column = columnOf.value(dateOf(record.attr("date", QString())), -1);
             if (column < 0)
                 continue;
             const QString staffs = record.attr("staffs", QString());
