@@ -56,7 +56,8 @@ QStringList RosteraMain::checkSchedule(bool repair)
         if (firstRow || groupname != current) {
             firstRow = false;
             current = groupname;
-            records = recordsOf.of(groupname);
+            records.clear();
+            recordsOf.of(groupname, records);
             recordAt.emplace(records);
         }
         // A group that was never generated is not reported.

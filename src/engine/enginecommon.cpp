@@ -86,16 +86,15 @@ GroupRecords::GroupRecords(const Read &read, const QString &rest)
     : m_read(read), m_rest(rest)
 {
     QVector<ASAttribute> all;
-    m_read(all, "typeof(groupname)='text'" + rest);
+    m_readOk = m_read(all, "typeof(groupname)='text'" + rest);
     for (const ASAttribute &record : all)
         m_byGroup[record.attr("groupname", QString())].append(record);
 }
 
-QVector<ASAttribute> GroupRecords::of(const QString &group) const
+bool GroupRecords::of(const QString &group, QVector<ASAttribute> &out) const
 {
-    if (!group.contains('\''))
-        return m_byGroup.value(group);
-    QVector<ASAttribute> records;
-    m_read(records, QString("groupname='%1'").arg(group) + m_rest);
-    return records;
+    if (group.contains('\''))
+        return m_read(out, QString("groupname='%1'").arg(group) + m_rest);
+    out += m_byGroup.value(group);
+    return m_readOk;
 }

@@ -100,11 +100,13 @@ public:
     using Read = std::function<bool(QVector<ASAttribute> &, QString)>;
     // rest: what follows the group's condition in the filter, empty or " and ...".
     GroupRecords(const Read &read, const QString &rest);
-    QVector<ASAttribute> of(const QString &group) const;
+    // Appends the group's records to out; false where that group's read would fail.
+    bool of(const QString &group, QVector<ASAttribute> &out) const;
 
 private:
     Read m_read;
     QString m_rest;
+    bool m_readOk = false;
     QHash<QString, QVector<ASAttribute>> m_byGroup;
 };
 

@@ -121,7 +121,8 @@ void RosteraMain::scheduleGroup(QString groupname, QVector<ASAttribute> &rows, Q
                                 QVector<ASAttribute> &out, const QVector<QDate> &)
 {
     // The working copies (the ring) carry the counters and, per date position, the shift taken.
-    QVector<ASAttribute> copies = generationRun->staffOf.of(groupname);
+    QVector<ASAttribute> copies;
+    generationRun->staffOf.of(groupname, copies);
     const int n = copies.size();
     if (n == 0)
         return;

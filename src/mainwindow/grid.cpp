@@ -164,6 +164,13 @@ void RosteraMain::refreshTable()
         return table->item(row, column);
     };
 
+    // The runs' reads by group are served from one read of the span, by schedule with the shift
+    // picked out as its condition would: text only, and read itself where an apostrophe in the
+    // name changes the condition.
+    std::optional<GroupRecords> groupRecords;
+    if (!employeeLockSchedule)
+        groupRecords.emplace([](QVector<ASAttribute> &list, QString filter) { return getDB()->schedule(list, filter); },
+                             QString(view == 1 ? " and typeof(shiftname)='text'" : "") + " and " + dateFilter);
     // One query serves a run of rows of the same group (and, by schedule, the same shift).
     for (int r = 0; r < gridRows.size();) {
         const QString group = gridRows.at(r).attr("groupname", QString());
@@ -172,8 +179,14 @@ void RosteraMain::refreshTable()
         if (view == 1)
             filter = QString("%1 and shiftname='%2'").arg(filter, shift);
         QVector<ASAttribute> records;
-        if (!getDB()->schedule(records, filter))
+        if (groupRecords && !(view == 1 && shift.contains('\''))) {
+            if (!groupRecords->of(group, records))
+                return;
+            if (view == 1)
+                records.removeIf([&shift](const ASAttribute &record) { return record.attr("shiftname", QString()) != shift; });
+        } else if (!getDB()->schedule(records, filter)) {
             return;
+        }
 
         for (const ASAttribute &record : records) {
             const int column = columnOf.value(dateOf(record.attr("date", QString())), -1);
