@@ -20,8 +20,7 @@
 
 static QString storedOptions()
 {
-    QSettings file(getAppDataPath(0), QSettings::IniFormat);
-    file.beginGroup("Options");
+    QSettings file(getAppDataPath(0), QSettings::IniFormat); file.beginGroup("Options");
     QStringList values;
     for (const QString &key : file.childKeys())
         values << key + "=" + file.value(key).toString();
@@ -47,11 +46,9 @@ static QString items(QListWidget *list)
 static void answerEditor(QString *seen, ASAttribute input)
 {
     whenDialogOpens<RecordEditor>([seen, input](RecordEditor *editor) mutable {
-        ASAttribute shown, empty;
-        editor->getData(shown);
+        ASAttribute shown, empty; editor->getData(shown);
         *seen = show({shown}).replace(QDate::currentDate().toString("yyyy-MM-dd"), "today");
-        editor->setData(empty);
-        QTest::keyClick(editor, Qt::Key_Return);
+        editor->setData(empty); QTest::keyClick(editor, Qt::Key_Return);
         editor->setData(input);
         QTest::keyClick(editor, input.values().isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         if (editor->isVisible())
@@ -90,8 +87,7 @@ private slots:
     }
     void options()
     {
-        QFETCH(int, command); QFETCH(QString, stored);
-        QFile::remove(getAppDataPath(0));
+        QFETCH(int, command); QFETCH(QString, stored); QFile::remove(getAppDataPath(0));
         for (const QString &pair : stored.split(';', Qt::SkipEmptyParts))
             setOption(pair.section('=', 0, 0), pair.section('=', 1));
         QString shown;
@@ -108,12 +104,9 @@ private slots:
     // work-week picker refuses no day, ignores numbers beyond 1 to 7, and is taken when accepted.
     void optionControls()
     {
-        QFile::remove(getAppDataPath(0));
-        setView(window, 0);
-        window->toolBar->setViewType(1);
-        window->settingsChange();
-        QStringList seen = window->rowLabels;
-        Boxes boxes;
+        QFile::remove(getAppDataPath(0)); setView(window, 0);
+        window->toolBar->setViewType(1); window->settingsChange();
+        QStringList seen = window->rowLabels; Boxes boxes;
         whenDialogOpens<Settings>([&seen](Settings *dialog) {
             Ui_Settings *ui = dialog->ui;
             ui->ck_showFrom->click(); // on by default: the click disables the week start's list
@@ -124,18 +117,15 @@ private slots:
                             + (ui->permanentScheduleTable->isColumnHidden(2) ? "hidden" : "shown");
             for (int column = 0; column < 3; ++column) // widths a translation may change (the last stretches)
                 seen << QString::number(ui->permanentScheduleTable->columnWidth(column));
-            ui->btn_shiftAdd->click();
-            ui->ck_use24hour->click();
+            ui->btn_shiftAdd->click(); ui->ck_use24hour->click();
             seen << QString::number(ui->shiftTable->rowCount()) + " " + ui->shiftTable->item(0, 2)->text();
             whenDialogOpens<WorkWeekSelect>([](WorkWeekSelect *picker) {
                 for (QCheckBox *day : picker->findChildren<QCheckBox *>())
                     day->setChecked(false);
-                QTest::keyClick(picker, Qt::Key_Return);
-                picker->setSel("3,,9,x,1,7,0");
+                QTest::keyClick(picker, Qt::Key_Return); picker->setSel("3,,9,x,1,7,0");
                 QTest::keyClick(picker, Qt::Key_Return);
             });
-            ui->btn_workWeek->click();
-            dialog->reject();
+            ui->btn_workWeek->click(); dialog->reject();
         });
         window->ui->actionShift_Settings->trigger();
         QCOMPARE(seen + window->rowLabels + boxes.texts,
@@ -175,17 +165,14 @@ private slots:
     }
     void lists()
     {
-        const QString kind = QTest::currentDataTag();
-        QFETCH(QStringList, input);
+        const QString kind = QTest::currentDataTag(); QFETCH(QStringList, input);
         QVERIFY(writePlan("staff A/G B/G | holiday 2026-12-25/1/1 | vacation A/2026-03-02/3 | lock B/2026-03-04"));
         const QString name = kind == "holiday" ? "t_holidayinfo" : kind == "vacation" ? "t_vacationinfo" : "t_lock_employee";
         Settings dialog;
         auto *list = dialog.findChild<QListWidget *>(kind == "holiday" ? "lst_holidays" : kind == "vacation" ? "lst_vacations" : "lst_lock");
         const auto press = [&](const QString &button) { dialog.findChild<QPushButton *>("btn_" + button + "_" + kind)->click(); };
-        Boxes boxes;
-        list->setCurrentRow(-1);
-        press("edit");
-        QString added, edited;
+        Boxes boxes; list->setCurrentRow(-1);
+        press("edit"); QString added, edited;
         QVector<ASAttribute> records = planRecords(kind, input[0]);
         for (const ASAttribute &record : records << ASAttribute()) { // the last one cancelled
             answerEditor(&added, record);
@@ -193,42 +180,30 @@ private slots:
         }
         press("save");
         QStringList result{table(name)};
-        list->setCurrentRow(list->count() - 1);
-        press("remove");
-        press("save");
-        result << table(name);
-        answerEditor(&edited, planRecords(kind, input[1]).value(0));
-        list->setCurrentRow(0);
-        emit list->itemDoubleClicked(list->item(0));
-        list->item(1)->setCheckState(Qt::Unchecked);
-        QCOMPARE(table(name), result.last());
-        press("save");
+        list->setCurrentRow(list->count() - 1); press("remove");
+        press("save"); result << table(name);
+        answerEditor(&edited, planRecords(kind, input[1]).value(0)); list->setCurrentRow(0);
+        emit list->itemDoubleClicked(list->item(0)); list->item(1)->setCheckState(Qt::Unchecked);
+        QCOMPARE(table(name), result.last()); press("save");
         boxes.texts.removeDuplicates();
         result = QStringList{added, edited, "|"} + result << table(name) << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
         QVERIFY(boxes.titles.join("").isEmpty() && boxes.icons.count(QMessageBox::Warning) == boxes.icons.size());
-        const QString path = TestHome::path() + "/" + kind + ".csv";
-        answerFileDialog(path);
-        press("export");
-        QFile exported(path);
+        const QString path = TestHome::path() + "/" + kind + ".csv"; answerFileDialog(path);
+        press("export"); QFile exported(path);
         result << (exported.open(QIODevice::ReadOnly) ? QString(exported.readLine()).trimmed() : "no file") << "|";
-        QVERIFY(writeFile(path, input[2].toUtf8()));
-        answerFileDialog(path);
-        press("import");
-        press("save");
+        QVERIFY(writeFile(path, input[2].toUtf8())); answerFileDialog(path);
+        press("import"); press("save");
         QTEST((result << items(list) << table(name)).join(' '), "result");
     }
     // The picker drops down under its button and is loaded once; ticks add and drop names, a choice replaces.
     void picker()
     {
-        QVERIFY(writePlan("staff A/G B/G"));
-        VacationSettings vacation;
+        QVERIFY(writePlan("staff A/G B/G")); VacationSettings vacation;
         LockEmployee lock;
         QStringList seen; // per opening: the items and the current row, then the field after each click
         for (RecordEditor *editor : std::initializer_list<RecordEditor *>{&vacation, &lock}) {
-            editor->show();
-            auto *button = editor->findChild<QPushButton *>("btn_selStaff");
-            auto *field = editor->findChild<QLineEdit *>("ed_staffids");
-            field->setText("B");
+            editor->show(); auto *button = editor->findChild<QPushButton *>("btn_selStaff");
+            auto *field = editor->findChild<QLineEdit *>("ed_staffids"); field->setText("B");
             for (int opening : {1, 2}) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 const QPoint corner = button->mapToGlobal(QPoint(0, button->height())); // give or take a frame

@@ -55,22 +55,18 @@ class TestSettingsTables : public QObject
         QString loaded;
         if (tab == 3 && column == 3)
             whenDialogOpens<WorkDateAssign>([&loaded, value](WorkDateAssign *editor) {
-                loaded = " " + editor->getStuffNum();
-                editor->staffNumBoxes[0]->setValue(value.toInt());
+                loaded = " " + editor->getStuffNum(); editor->staffNumBoxes[0]->setValue(value.toInt());
                 value.isEmpty() ? editor->reject() : editor->accept();
             });
-        const QModelIndex index = table(tab)->model()->index(row, column);
-        table(tab)->edit(index);
+        const QModelIndex index = table(tab)->model()->index(row, column); table(tab)->edit(index);
         QWidget *editor = table(tab)->indexWidget(index);
         if (!editor)
             return "no editor" + loaded;
-        auto *box = qobject_cast<QComboBox *>(editor);
-        QStringList items;
+        auto *box = qobject_cast<QComboBox *>(editor); QStringList items;
         for (int i = 0; box && i < box->count(); ++i)
             items << box->itemText(i);
         const QMetaProperty property = editor->metaObject()->userProperty();
-        const QString old = property.read(editor).toString().left(5);
-        property.write(editor, value);
+        const QString old = property.read(editor).toString().left(5); property.write(editor, value);
         QTest::keyClick(editor, Qt::Key_Return);
         QCoreApplication::processEvents(); // the commit is queued
         return box ? items.join(',') : old;
@@ -118,33 +114,25 @@ private slots:
         QStringList expected = database();
         if (f.size() > 6)
             dialog->findChild<QAbstractButton *>(f[6])->click();
-        const QString shown = cells(table(tab));
-        Boxes boxes;
-        addRow(tab, f[0]);
-        click(tab, "Save");
+        const QString shown = cells(table(tab)); Boxes boxes;
+        addRow(tab, f[0]); click(tab, "Save");
         QCOMPARE(boxes.texts.value(0) + "|" + cells(table(tab)), f[1] + "|" + shown + "|" + f[2]);
         QCOMPARE(database(), expected);
         table(tab)->selectRow(table(tab)->rowCount() - 1); // removed, and a row added afresh
         click(tab, "Delete");
-        addRow(tab, f[3]);
-        click(tab, "Save");
-        expected[tab] = f[4];
-        QCOMPARE(database(), expected);
+        addRow(tab, f[3]); click(tab, "Save");
+        expected[tab] = f[4]; QCOMPARE(database(), expected);
         const QString saved = cells(table(tab));
         const QString file = TestHome::path() + "/" + QTest::currentDataTag() + ".csv";
         QStringList exported, imported; // caption, filter and folder of each dialog
         answerFileDialog(file, &exported);
-        click(tab, "Export");
-        click(tab, "Add");
-        answerFileDialog(file), click(tab, "Import");
-        QFile written(file);
+        click(tab, "Export"); click(tab, "Add");
+        answerFileDialog(file), click(tab, "Import"); QFile written(file);
         QCOMPARE((written.open(QIODevice::ReadOnly) ? written.readLine() : "no file") + cells(table(tab)),
                  f[5] + "\r\n" + QString(saved).replace("G,T,B,", "G,T,<None>,"));
-        const QString before = cells(table(tab));
-        QVERIFY(QFile::remove(file));
+        const QString before = cells(table(tab)); QVERIFY(QFile::remove(file));
         answerFileDialog(file, &exported, [file] { QDir().mkdir(file); });
-        click(tab, "Export");
-        QVERIFY(QDir().rmdir(file));
+        click(tab, "Export"); QVERIFY(QDir().rmdir(file));
         for (const QByteArray &content : {QByteArray(), QByteArray("name,note\r\n"), QByteArray("a,b\r\n1,2\r\n")}) {
             QVERIFY(writeFile(file, content));
             answerFileDialog(file, &imported, [file, content] { content.isEmpty() && QFile::remove(file); });
@@ -186,25 +174,19 @@ private slots:
     // and Save stores as many rows as it has.
     void permanentRules()
     {
-        QCOMPARE(edit(3, 0, 3, ""), "no editor 1;1;1;1;1;1;1");
-        QCOMPARE(edit(3, 0, 3, "3"), "no editor 1;1;1;1;1;1;1");
+        QCOMPARE(edit(3, 0, 3, ""), "no editor 1;1;1;1;1;1;1"); QCOMPARE(edit(3, 0, 3, "3"), "no editor 1;1;1;1;1;1;1");
         QCOMPARE(cells(table(3)), "G,S,<None>,3;1;1;1;1;1;1|<None>,T,<None>,2;2;2;2;2;2;2");
-        const QString file = TestHome::path() + "/lines.csv";
-        answerFileDialog(file);
-        click(3, "Export");
-        click(3, "Add");
-        table(3)->setCurrentCell(0, 0);
-        click(3, "Delete");
-        table(3)->item(1, 1)->setText("S");
-        QCOMPARE(edit(3, 1, 3, "5"), "no editor 0;0;0;0;0;0;0");
+        const QString file = TestHome::path() + "/lines.csv"; answerFileDialog(file);
+        click(3, "Export"); click(3, "Add");
+        table(3)->setCurrentCell(0, 0); click(3, "Delete");
+        table(3)->item(1, 1)->setText("S"); QCOMPARE(edit(3, 1, 3, "5"), "no editor 0;0;0;0;0;0;0");
         QCOMPARE(cells(table(3)), "<None>,T,<None>,2;2;2;2;2;2;2|<None>,S,,5;0;0;0;0;0;0");
         click(3, "Save");
         QCOMPARE(cells(table(3)), "<None>,S,<None>,5;0;0;0;0;0;0|<None>,T,<None>,3;1;1;1;1;1;1"); // as stored
         QVERIFY(writeFile(file, "groupname,shiftname,daystaffnum\r\nX,S,<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' "
                                 "dayweek='1;2'/>\r\nY,T,<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>\r\n"
                                 "Z,S,<dt stn='1;;3'/>\r\n"));
-        answerFileDialog(file);
-        click(3, "Import");
+        answerFileDialog(file); click(3, "Import");
         QCOMPARE(cells(table(3)), "X,S,<None>,From:2026-03-01 To:2026-03-31 Week:5 Day of week:1;2|"
                                   "Y,T,<None>,Date:2026-03-02 Week:1 Day of week:1|Z,S,<None>,1;;3");
         // The third row has no element: its rule reads as empty and an accepted one is not kept.
