@@ -2,7 +2,7 @@
 # Sourced by start.sh, test.sh, package.sh and check-package.sh.
 ROSTERA_PACKAGES="build-essential cmake qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools
  qt6-l10n-tools qt6-translations-l10n libqt6sql6-sqlite libgl-dev fonts-liberation fonts-noto-cjk
- poppler-utils"
+ poppler-utils python3-icalendar"
 # Making the Debian package also renders the icons and reads the program's library dependencies.
 ROSTERA_PACKAGING_PACKAGES="dpkg-dev file librsvg2-bin"
 # Checking the package validates the menu entry and the metainfo.

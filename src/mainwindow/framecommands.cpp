@@ -12,6 +12,7 @@
 #include "core/apppaths.h"
 #include "masterdata/settings.h"
 #include "persistence/databasefunc.h"
+#include "reports/calendarexport.h"
 #include "reports/reports.h"
 #include "ui_rosteramain.h"
 
@@ -116,6 +117,12 @@ void RosteraMain::on_actionShift_Settings_triggered() { openSettings(2); }
 void RosteraMain::on_actionPermanentSchedule_Settings_triggered() { openSettings(3); }
 void RosteraMain::on_actionHoliday_Settings_triggered() { openSettings(4); }
 void RosteraMain::on_actionOptions_Settings_triggered() { openSettings(5); }
+
+void RosteraMain::on_actionExport_Calendar_triggered()
+{
+    CalendarExport dialog(this);
+    dialog.exec();
+}
 
 void RosteraMain::on_reports_clicked()
 {

@@ -128,6 +128,8 @@ public slots:
     // Connected by name from the form.
     void on_actionOpen_Database_triggered();
     void on_actionSave_Database_triggered();
+    // The employees' assignments as iCalendar files, through a modal dialog.
+    void on_actionExport_Calendar_triggered();
     void on_actionExit_triggered();
     void on_action_Help_triggered();
     void on_action_Website_triggered();
