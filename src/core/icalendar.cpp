@@ -7,11 +7,6 @@
 #include "core/helpers.h"
 #include "persistence/databasefunc.h"
 
-static QString tr(const char *text)
-{
-    return QCoreApplication::translate("CalendarExport", text);
-}
-
 QVector<CalendarEvent> employeeEvents(const QString &id, const QDate &first, const QDate &last, bool customers)
 {
     QVector<ASAttribute> records;
@@ -39,7 +34,9 @@ QVector<CalendarEvent> employeeEvents(const QString &id, const QDate &first, con
             event.start = QDateTime(event.date, start);
             event.end = QDateTime(end > start ? event.date : event.date.addDays(1), end);
         }
-        event.summary = (customers ? tr("Customer: %1") : tr("Shift: %1")).arg(shiftName)
+        event.summary = (customers ? QCoreApplication::translate("CalendarExport", "Customer: %1")
+                                   : QCoreApplication::translate("CalendarExport", "Shift: %1"))
+                            .arg(shiftName)
                         + (group.isEmpty() ? QString() : " (" + group + ")");
         events.append(event);
     }

@@ -2,6 +2,76 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Kalender exportieren</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Bis:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppe:</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>Mitarbeiter:</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>Eine Datei je Mitarbeiter in einen Ordner</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>Eine Datei für einen Mitarbeiter</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Alle&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Keine&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>Die Kalenderdatei %1 konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>Wählen Sie für eine einzelne Datei einen Mitarbeiter.</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>Für die gewählten Mitarbeiter ist in diesem Zeitraum nichts geplant.</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>iCalendar-Datei(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>%n Kalenderdatei geschrieben.</numerusform>
+            <numerusform>%n Kalenderdateien geschrieben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>Kunde: %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>Schicht: %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +818,10 @@ vom %1 bis %2 wirklich löschen?</translation>
     <message>
         <source>Sun</source>
         <translation>So</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>Kalender exportieren...</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,76 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Exportar calendario</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Desde:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Hasta:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupo:</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>Empleado:</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>Un archivo por empleado en una carpeta</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>Un archivo para un empleado</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Todos&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Ninguno&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>No se pudo escribir el archivo de calendario %1.</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>Elija un empleado para un solo archivo.</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>No hay nada programado para los empleados elegidos en este período.</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>Archivo iCalendar(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>%n archivo de calendario escrito.</numerusform>
+            <numerusform>%n archivos de calendario escritos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>Cliente: %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>Turno: %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +818,10 @@ del %1 al %2?</translation>
     <message>
         <source>Sun</source>
         <translation>Dom</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>Exportar calendario...</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,76 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Exporter le calendrier</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Du :</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Au :</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Groupe :</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>Employé :</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>Un fichier par employé dans un dossier</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>Un fichier pour un employé</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Tous&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Aucun&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>Impossible d'écrire le fichier de calendrier %1.</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>Choisissez un employé pour un fichier unique.</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>Rien n'est planifié pour les employés choisis sur cette période.</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>Fichier iCalendar(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>%n fichier de calendrier écrit.</numerusform>
+            <numerusform>%n fichiers de calendrier écrits.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>Client : %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>Équipe : %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +818,10 @@ du %1 au %2&#xa0;?</translation>
     <message>
         <source>Sun</source>
         <translation>Dim.</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>Exporter le calendrier...</translation>
     </message>
 </context>
 <context>

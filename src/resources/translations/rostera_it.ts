@@ -2,6 +2,76 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Esporta calendario</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Da:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>A:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppo:</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>Dipendente:</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>Un file per dipendente in una cartella</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>Un file per un dipendente</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Tutti&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Nessuno&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>Impossibile scrivere il file di calendario %1.</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>Scegliere un dipendente per un singolo file.</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>Non è pianificato nulla per i dipendenti scelti in questo periodo.</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>File iCalendar(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>%n file di calendario scritto.</numerusform>
+            <numerusform>%n file di calendario scritti.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>Cliente: %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>Turno: %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +818,10 @@ dal %1 al %2?</translation>
     <message>
         <source>Sun</source>
         <translation>Dom</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>Esporta calendario...</translation>
     </message>
 </context>
 <context>

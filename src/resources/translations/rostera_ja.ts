@@ -2,6 +2,75 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>カレンダーのエクスポート</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>開始:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>終了:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>グループ:</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>従業員:</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>従業員ごとに 1 ファイルをフォルダーへ</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>1 人の従業員に 1 ファイル</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;すべて&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;なし&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>カレンダーファイル %1 を書き込めませんでした。</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>1 つのファイルには従業員を 1 人選んでください。</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>この期間、選んだ従業員には何も予定されていません。</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>iCalendar ファイル(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>%n 個のカレンダーファイルを書き込みました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>顧客: %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>シフト: %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +817,10 @@ from %1 to %2?</source>
     <message>
         <source>Sun</source>
         <translation>日</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>カレンダーのエクスポート...</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,77 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Eksportuj kalendarz</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Od:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Do:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Grupa:</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>Pracownik:</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>Jeden plik na pracownika do folderu</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>Jeden plik dla jednego pracownika</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Wszyscy&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Brak&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>Nie można zapisać pliku kalendarza %1.</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>Wybierz jednego pracownika dla pojedynczego pliku.</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>W tym okresie wybrani pracownicy nie mają nic zaplanowanego.</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>Plik iCalendar(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>Zapisano %n plik kalendarza.</numerusform>
+            <numerusform>Zapisano %n pliki kalendarza.</numerusform>
+            <numerusform>Zapisano %n plików kalendarza.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>Klient: %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>Zmiana: %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +819,10 @@ od %1 do %2?</translation>
     <message>
         <source>Sun</source>
         <translation>Nd</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>Eksportuj kalendarz...</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,77 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>Экспорт календаря</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>С:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>По:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Группа:</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>Сотрудник:</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>По файлу на сотрудника в папку</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>Один файл для одного сотрудника</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;Все&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;Нет&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>Не удалось записать файл календаря %1.</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>Для одного файла выберите одного сотрудника.</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>На этот период у выбранных сотрудников ничего не запланировано.</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>Файл iCalendar(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>Записан %n файл календаря.</numerusform>
+            <numerusform>Записано %n файла календаря.</numerusform>
+            <numerusform>Записано %n файлов календаря.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>Клиент: %1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>Смена: %1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +819,10 @@ from %1 to %2?</source>
     <message>
         <source>Sun</source>
         <translation>Вс</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>Экспорт календаря...</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,75 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>导出日历</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>从：</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>到：</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>组：</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>员工：</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>每位员工一个文件，存入文件夹</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>一位员工一个文件</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;全部&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;无&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>无法写入日历文件 %1。</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>单个文件请选择一位员工。</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>所选员工在此期间没有任何排班。</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>iCalendar 文件(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>已写入 %n 个日历文件。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>客户：%1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>班次：%1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +817,10 @@ from %1 to %2?</source>
     <message>
         <source>Sun</source>
         <translation>周日</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>导出日历...</translation>
     </message>
 </context>
 <context>

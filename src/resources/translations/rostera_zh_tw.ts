@@ -2,6 +2,75 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW">
 <context>
+    <name>CalendarExport</name>
+    <message>
+        <source>Export Calendar</source>
+        <translation>匯出行事曆</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>從：</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>到：</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>組：</translation>
+    </message>
+    <message>
+        <source>Employee:</source>
+        <translation>員工：</translation>
+    </message>
+    <message>
+        <source>One file per employee into a folder</source>
+        <translation>每位員工一個檔案，存入資料夾</translation>
+    </message>
+    <message>
+        <source>One file for one employee</source>
+        <translation>一位員工一個檔案</translation>
+    </message>
+    <message>
+        <source>&lt;All&gt;</source>
+        <translation>&lt;全部&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;None&gt;</source>
+        <translation>&lt;無&gt;</translation>
+    </message>
+    <message>
+        <source>The calendar file %1 could not be written.</source>
+        <translation>無法寫入行事曆檔案 %1。</translation>
+    </message>
+    <message>
+        <source>Choose one employee for a single file.</source>
+        <translation>單一檔案請選擇一位員工。</translation>
+    </message>
+    <message>
+        <source>Nothing is scheduled for the chosen employees in this span.</source>
+        <translation>所選員工在此期間沒有任何排班。</translation>
+    </message>
+    <message>
+        <source>iCalendar File(*.ics)</source>
+        <translation>iCalendar 檔案(*.ics)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n calendar file(s) written.</source>
+        <translation>
+            <numerusform>已寫入 %n 個行事曆檔案。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Customer: %1</source>
+        <translation>客戶：%1</translation>
+    </message>
+    <message>
+        <source>Shift: %1</source>
+        <translation>班次：%1</translation>
+    </message>
+</context>
+<context>
     <name>ClearScheduleSettings</name>
     <message>
         <source>Clear Schedule</source>
@@ -748,6 +817,10 @@ from %1 to %2?</source>
     <message>
         <source>Sun</source>
         <translation>週日</translation>
+    </message>
+    <message>
+        <source>Export Calendar...</source>
+        <translation>匯出行事曆...</translation>
     </message>
 </context>
 <context>
