@@ -3,6 +3,7 @@
 #include <QDomDocument>
 #include <QDomElement>
 #include <QDomNamedNodeMap>
+#include <QHash>
 
 #include <cmath>
 
@@ -34,6 +35,20 @@ int ASAttribute::attr(const QString &key, int def) const
     return it == m_values.constEnd() ? def : it.value().toInt(nullptr, 10);
 }
 
+// The general conversion of a text, made once for each of the few texts a run reads again and
+// again (the shares of a generation).
+static float converted(const QString &text)
+{
+    static QHash<QString, float> known;
+    auto it = known.constFind(text);
+    if (it == known.constEnd()) {
+        if (known.size() > 4096)
+            known.clear();
+        it = known.insert(text, text.toFloat());
+    }
+    return *it;
+}
+
 // Counters are read for every candidate of a generation, and they are small whole numbers: those
 // are read digit by digit, to the float that the general conversion would give.
 float ASAttribute::attr(const QString &key, float def) const
@@ -43,11 +58,11 @@ float ASAttribute::attr(const QString &key, float def) const
         return def;
     const QString &text = it.value();
     if (text.isEmpty() || text.size() > 6)
-        return text.toFloat();
+        return converted(text);
     int number = 0;
     for (const QChar c : text) {
         if (c < u'0' || c > u'9')
-            return text.toFloat();
+            return converted(text);
         number = number * 10 + (c.unicode() - u'0');
     }
     return float(number);
