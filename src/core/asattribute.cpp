@@ -1,9 +1,9 @@
 #include "core/asattribute.h"
+#include "core/textmemo.h"
 
 #include <QDomDocument>
 #include <QDomElement>
 #include <QDomNamedNodeMap>
-#include <QHash>
 
 #include <cmath>
 
@@ -40,13 +40,7 @@ int ASAttribute::attr(const QString &key, int def) const
 static float converted(const QString &text)
 {
     static QHash<QString, float> known;
-    auto it = known.constFind(text);
-    if (it == known.constEnd()) {
-        if (known.size() > 4096)
-            known.clear();
-        it = known.insert(text, text.toFloat());
-    }
-    return *it;
+    return memoized(known, text, [](const QString &t) { return t.toFloat(); });
 }
 
 // Counters are read for every candidate of a generation, and they are small whole numbers: those

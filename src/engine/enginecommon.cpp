@@ -1,6 +1,7 @@
 #include "engine/enginecommon.h"
 
 #include "core/asattribute.h"
+#include "core/textmemo.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "ui_rosteramain.h"
@@ -34,10 +35,7 @@ QString spanFilter(const QDate &first, const QDate &last)
 QDate dateOf(const QString &text)
 {
     static QHash<QString, QDate> parsed;
-    auto it = parsed.constFind(text);
-    if (it == parsed.constEnd())
-        it = parsed.insert(text, QDate::fromString(text, "yyyy-MM-dd"));
-    return *it;
+    return memoized(parsed, text, [](const QString &t) { return QDate::fromString(t, "yyyy-MM-dd"); });
 }
 
 bool inSpan(const QDate &date, const QDate &first, int days)

@@ -1,6 +1,7 @@
 #include <QHash>
 #include <QStringList>
 
+#include "core/textmemo.h"
 #include "mainwindow/rosteramain.h"
 
 namespace {
@@ -20,24 +21,23 @@ struct Demand
 const Demand &demandOf(const QString &daystaffnum)
 {
     static QHash<QString, Demand> read;
-    auto it = read.constFind(daystaffnum);
-    if (it != read.constEnd())
-        return *it;
-    Demand demand;
-    ASAttribute rule;
-    const bool isRule = rule.setXmlAttrs(daystaffnum);
-    if (isRule && rule.attr("t", 0) != 0) {
-        demand.byDate = true;
-        demand.from = QDate::fromString(rule.attr("sdt", QString()), "yyyy-MM-dd");
-        demand.to = QDate::fromString(rule.attr("edt", QString()), "yyyy-MM-dd");
-        demand.weeks = rule.attr("week", QString()).split(';');
-        demand.days = rule.attr("dayweek", QString()).split(';');
-    } else {
-        const QString list = isRule ? rule.attr("stn", QString()) : daystaffnum;
-        demand.dayIndex = list.isEmpty();
-        demand.numbers = list.split(';', Qt::SkipEmptyParts);
-    }
-    return *read.insert(daystaffnum, demand);
+    return memoized(read, daystaffnum, [](const QString &text) {
+        Demand demand;
+        ASAttribute rule;
+        const bool isRule = rule.setXmlAttrs(text);
+        if (isRule && rule.attr("t", 0) != 0) {
+            demand.byDate = true;
+            demand.from = QDate::fromString(rule.attr("sdt", QString()), "yyyy-MM-dd");
+            demand.to = QDate::fromString(rule.attr("edt", QString()), "yyyy-MM-dd");
+            demand.weeks = rule.attr("week", QString()).split(';');
+            demand.days = rule.attr("dayweek", QString()).split(';');
+        } else {
+            const QString list = isRule ? rule.attr("stn", QString()) : text;
+            demand.dayIndex = list.isEmpty();
+            demand.numbers = list.split(';', Qt::SkipEmptyParts);
+        }
+        return demand;
+    });
 }
 
 } // namespace
