@@ -23,19 +23,15 @@ static QString g_home;
 
 TestHome::TestHome()
 {
-    char pattern[] = "/tmp/rostera-test-XXXXXX";
-    g_home = QString::fromLocal8Bit(mkdtemp(pattern));
-    const QByteArray home = g_home.toLocal8Bit();
-    setenv("HOME", home, 1);
+    char pattern[] = "/tmp/rostera-test-XXXXXX"; g_home = QString::fromLocal8Bit(mkdtemp(pattern));
+    const QByteArray home = g_home.toLocal8Bit(); setenv("HOME", home, 1);
     for (const char *name : {"XDG_DATA_HOME=/.local/share", "XDG_CONFIG_HOME=/.config", "XDG_CACHE_HOME=/.cache",
                              "XDG_RUNTIME_DIR=/run", "TMPDIR=/tmp"}) {
-        const QList<QByteArray> pair = QByteArray(name).split('=');
-        QDir().mkpath(home + pair[1]);
+        const QList<QByteArray> pair = QByteArray(name).split('='); QDir().mkpath(home + pair[1]);
         setenv(pair[0], home + pair[1], 1);
     }
     QFile::setPermissions(g_home + "/run", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    setApplicationIdentity();
+    setenv("QT_QPA_PLATFORM", "offscreen", 0); setApplicationIdentity();
     // Every window asks its update host at start: a closed loopback port, never the network.
     SoftUpdate::server = "http://127.0.0.1:1";
     Q_INIT_RESOURCE(rostera);
@@ -73,11 +69,9 @@ static const QMap<QString, QList<std::pair<QString, QString>>> kPlanFields = {
 
 QVector<ASAttribute> planRecords(const QString &kind, const QString &items)
 {
-    const auto fields = kPlanFields.value(kind);
-    QVector<ASAttribute> list;
+    const auto fields = kPlanFields.value(kind); QVector<ASAttribute> list;
     for (const QString &item : items.split(' ', Qt::SkipEmptyParts)) {
-        const QStringList values = item.split('/');
-        ASAttribute r;
+        const QStringList values = item.split('/'); ASAttribute r;
         for (int i = 0; i < fields.size(); ++i) {
             QString value = values.value(i, fields[i].second);
             if (i >= values.size() && value.endsWith('='))
@@ -94,12 +88,10 @@ bool writePlan(const QString &plan)
     QMap<QString, QVector<ASAttribute>> kinds{{"group", planRecords("group", "G H")},
                                               {"shift", planRecords("shift", "S T")}};
     for (const QString &section : plan.split('|', Qt::SkipEmptyParts)) {
-        const QString text = section.trimmed();
-        const QString kind = text.section(' ', 0, 0);
+        const QString text = section.trimmed(); const QString kind = text.section(' ', 0, 0);
         kinds[kind] = planRecords(kind, text.section(' ', 1));
     }
-    DatabaseFunc *db = getDB();
-    QString error;
+    DatabaseFunc *db = getDB(); QString error;
     return db->saveGroupInfo(kinds["group"], error) && db->saveStaffInfo(kinds["staff"])
            && db->saveShiftInfo(kinds["shift"]) && db->savePermanentSchedule(kinds["row"])
            && db->saveHolidayInfo(kinds["holiday"]) && db->saveVacationInfo(kinds["vacation"])
@@ -167,8 +159,7 @@ int drawsTaken() { return g_drawn; }
 Boxes::Boxes(QList<QMessageBox::StandardButton> answers, QMessageBox::StandardButton rest)
     : m_answers(answers), m_rest(rest)
 {
-    connect(&m_timer, &QTimer::timeout, this, &Boxes::poll);
-    m_timer.start(20);
+    connect(&m_timer, &QTimer::timeout, this, &Boxes::poll); m_timer.start(20);
 }
 
 void Boxes::poll()
@@ -177,12 +168,10 @@ void Boxes::poll()
         auto *box = qobject_cast<QMessageBox *>(w);
         if (!box || !box->isVisible() || m_seen.contains(box))
             continue;
-        m_seen.append(box);
-        texts << box->text();
+        m_seen.append(box); texts << box->text();
         titles << box->windowTitle();
         defaults << (box->defaultButton() ? box->standardButton(box->defaultButton()) : QMessageBox::NoButton);
-        icons << box->icon();
-        buttons << box->standardButtons();
+        icons << box->icon(); buttons << box->standardButtons();
         QAbstractButton *target = box->button(m_answers.value(texts.size() - 1, m_rest));
         if (!target)
             target = box->defaultButton();
@@ -201,8 +190,7 @@ void answerFileDialog(const QString &file, QStringList *seen, const std::functio
         // The file name is not replaced while its editor has the focus.
         if (QWidget *focus = dialog->focusWidget())
             focus->clearFocus();
-        dialog->selectFile(file);
-        QMetaObject::invokeMethod(dialog, "accept");
+        dialog->selectFile(file); QMetaObject::invokeMethod(dialog, "accept");
         if (dialog->isVisible()) // refused: fail the test rather than hang it
             dialog->reject();
         else if (after)
@@ -214,15 +202,13 @@ RosteraMain *openWindow()
 {
     if (!getDB()->isOpen() && !getDB()->openDB(QString()))
         return nullptr;
-    auto *window = new RosteraMain;
-    window->randomNumber = scriptedDraw;
+    auto *window = new RosteraMain; window->randomNumber = scriptedDraw;
     window->show();
     return QTest::qWaitForWindowExposed(window) ? window : nullptr;
 }
 
 void setView(RosteraMain *window, int personType, const QString &group)
 {
-    window->toolBar->setPersonType(personType);
-    window->refreshGroupCmb();
+    window->toolBar->setPersonType(personType); window->refreshGroupCmb();
     window->ui->cmb_group->setCurrentIndex(group.isEmpty() ? 0 : window->ui->cmb_group->findText(group));
 }

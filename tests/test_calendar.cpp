@@ -53,10 +53,8 @@ private slots:
     void cleanupTestCase() { delete window; }
     void exportAndReadBack()
     {
-        const QString folder = TestHome::path() + "/calendars";
-        QVERIFY(QDir().mkpath(folder));
-        Boxes boxes;
-        answerFileDialog(folder);
+        const QString folder = TestHome::path() + "/calendars"; QVERIFY(QDir().mkpath(folder));
+        Boxes boxes; answerFileDialog(folder);
         exportCalendar(window, 0, "<All>", false, {2026, 3, 1}, {2026, 3, 10});
         const QStringList events = parsed({folder + "/A.ics", folder + "/N.ics"});
         QStringList shown;
@@ -69,11 +67,9 @@ private slots:
         QCOMPARE(boxes.texts, QStringList{"2 calendar file(s) written."});
         // Every line ends in CR LF and holds at most 75 octets; the same assignments keep their identities, the time stamp aside.
         QFile file(folder + "/A.ics");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray first = file.readAll();
+        QVERIFY(file.open(QIODevice::ReadOnly)); const QByteArray first = file.readAll();
         for (const QByteArray &line : first.split('\n')) QVERIFY2(line.isEmpty() || (line.endsWith('\r') && line.size() <= 76), line);
-        window->employeeLockSchedule = true;
-        answerFileDialog(folder + "/one.ics");
+        window->employeeLockSchedule = true; answerFileDialog(folder + "/one.ics");
         exportCalendar(window, 2, "A", true, {2026, 3, 2}, {2026, 3, 3});
         window->employeeLockSchedule = false;
         const QStringList again = parsed({folder + "/one.ics"});
@@ -85,8 +81,7 @@ private slots:
     // which stops root too): a message each, no file.
     void refusals()
     {
-        const QString locked = TestHome::path() + "/locked";
-        QVERIFY(QDir().mkpath(locked + "/N.ics"));
+        const QString locked = TestHome::path() + "/locked"; QVERIFY(QDir().mkpath(locked + "/N.ics"));
         Boxes boxes;
         exportCalendar(window, 0, "<All>", false, {2026, 3, 5}, {2026, 3, 19});
         exportCalendar(window, 0, "<All>", true, {2026, 3, 1}, {2026, 3, 31});

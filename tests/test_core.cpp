@@ -24,8 +24,7 @@ private slots:
         QStringList written, general;
         for (const float value : {0.0f, -0.0f, 3.0f, 999999.0f, 1e6f, 2.5f, 123456.7f, -4.0f}) // and are written as the general form writes them
             r.setAttr("f", value), written << r.attr("f", QString()), general << QString("%1").arg(double(value));
-        QCOMPARE(written, general);
-        r.clear();
+        QCOMPARE(written, general); r.clear();
         const QString rule = record({{"t", "0"}, {"stn", "2;2;2;2;2;1;0"}}).getXmlAttrs("dt");
         QVERIFY2(r.values().isEmpty() && rule.startsWith("<dt ") && rule.endsWith("/>\n") && rule.count('\n') == 1 && rule.contains(" t=\"0\"") && rule.contains(" stn=\"2;2;2;2;2;1;0\""), qPrintable(rule));
         const ASAttribute odd = record({{"title", "Say \"hi\" & <bye> 'now'"}, {"empty", ""}, {"n", "3"}});
@@ -74,8 +73,7 @@ private slots:
         QFETCH(QString, kind); QFETCH(QString, types); QFETCH(QString, items); QFETCH(QString, sorted);
         const auto typed = [&](QVector<ASAttribute> list) { for (ASAttribute &r : list) r.setAttr("infotype", types.section(' ', 0, 0)), r.setAttr("infosubtype", types.section(' ', 1)); return list; };
         getDB()->shifts = planRecords("shift", "Night/N/22:00 Day/D/08:00");
-        QVector<ASAttribute> records = typed(planRecords(kind, items));
-        sortRecords(records);
+        QVector<ASAttribute> records = typed(planRecords(kind, items)); sortRecords(records);
         QCOMPARE(show(records), show(typed(planRecords(kind, sorted))));
     }
     void orderingWithEqualKeys() { // the comparator says true for equal keys; the sort must still give an ordered permutation
@@ -83,8 +81,7 @@ private slots:
         QVector<ASAttribute> cells;
         for (int i = 0; i < 1000; ++i)
             cells << record({{"infotype", "schedule"}, {"date", QString::number(random.bounded(2))}, {"groupname", QString::number(random.bounded(2))}, {"shiftname", random.bounded(2) ? "Day" : "Gone"}, {"staffs", QString::number(i)}});
-        sortRecords(cells);
-        QStringList tags;
+        sortRecords(cells); QStringList tags;
         for (int i = 0; i < cells.size(); tags << cells[i++].attr("staffs", QString()))
             QVERIFY2(i == 0 || sortInfo(cells[i - 1], cells[i]), qPrintable(QString::number(i)));
         QVERIFY(tags.removeDuplicates() == 0 && tags.size() == 1000);
@@ -109,8 +106,7 @@ private slots:
     }
     void csvImport() {
         QFETCH(QByteArray, bytes); QFETCH(QString, fields); QFETCH(QString, records);
-        QVector<ASAttribute> read;
-        QStringList wanted = fields.split(',');
+        QVector<ASAttribute> read; QStringList wanted = fields.split(',');
         QVERIFY(writeFile(TestHome::path() + "/in.csv", bytes) && infoImport(read, wanted, TestHome::path() + "/in.csv"));
         QCOMPARE(show(read), records);
     }

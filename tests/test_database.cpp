@@ -27,8 +27,7 @@ static QString lines(const QString &sql) { QStringList out; for (const QStringLi
 static ASAttribute parse(const QString &text) { ASAttribute r; for (const QString &pair : text.split(' ', Qt::SkipEmptyParts)) r.setAttr(pair.section('=', 0, 0), pair.section('=', 1)); return r; } // from "key=value ..."
 static QString saveAndRead(const QString &kind, QVector<ASAttribute> list) // whether a save of one kind went through, and the plain read then
 {
-    DatabaseFunc *db = getDB();
-    QVector<ASAttribute> out; QString error;
+    DatabaseFunc *db = getDB(); QVector<ASAttribute> out; QString error;
     const bool saved = kind == "group" ? db->saveGroupInfo(list, error) : kind == "staff" ? db->saveStaffInfo(list) : kind == "shift" ? db->saveShiftInfo(list) : kind == "permanentschedule"
         ? db->savePermanentSchedule(list) : kind == "holiday" ? db->saveHolidayInfo(list) : kind == "vacation" ? db->saveVacationInfo(list) : db->saveLockEmployeeInfo(list);
     const bool read = kind == "group" ? db->groupInfo(out) : kind == "staff" ? db->staffInfo(out) : kind == "shift" ? db->shiftInfo(out) : kind == "permanentschedule"
@@ -84,8 +83,7 @@ private slots:
         db->db.setConnectOptions("QSQLITE_OPEN_READONLY"); // as SQLite opens a file it may not write, also for root
         QVERIFY(db->openDB(home("readonly.db")));
         QCOMPARE(boxes.texts, QStringList({"Open Database Failed!", "Update database failed!", "fail"}));
-        QString error;
-        const QVector<ASAttribute> groups = db->groups;
+        QString error; const QVector<ASAttribute> groups = db->groups;
         QVERIFY2(!groups.isEmpty() && !db->saveGroupInfo(out, error) && error.contains("readonly") && db->groups == groups && content(home("readonly.db")) == before, qPrintable(error));
         QCOMPARE(lines("SELECT name FROM sqlite_master WHERE type='table' ORDER BY rowid"), "t_groupinfo | t_staffinfo | t_shiftinfo | t_permanentschedule | t_vacationinfo | t_lock_employee | t_schedule");
     }

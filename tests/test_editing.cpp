@@ -58,14 +58,11 @@ private slots:
         const QStringList f = cell.split(' ');
         QVERIFY(writePlan("group G H K | staff 1/G 2/G 3/G 4/G 5/G 6/G 9/K | shift Sx/S Tx/T"
                           " | row G/Sx/1;1;1;1;1;0;0 G/Tx/1;1;1;1;1;1;1 H/Sx/1 | schedule 2026-03-02/G/Sx/1"));
-        setOption("employee lock schedule", f[0] == "1");
-        window->settingsChange();
+        setOption("employee lock schedule", f[0] == "1"); window->settingsChange();
         window->toolBar->setViewType(f[1].toInt());
         window->ui->date_current->setDate({2026, 3, 2});
-        window->on_refresh_schedule();
-        window->tipText.clear();
-        window->resize(800, 270);
-        QVERIFY(behind.isEmpty() || rows(behind).isEmpty());
+        window->on_refresh_schedule(); window->tipText.clear();
+        window->resize(800, 270); QVERIFY(behind.isEmpty() || rows(behind).isEmpty());
         QTableWidget *table = window->ui->tableWidget;
         const QModelIndex index = table->model()->index(int(window->rowLabels.indexOf(QRegularExpression("(.*--)?" + f[2]))),
                                                         f[3].toInt());
@@ -74,13 +71,11 @@ private slots:
         // A double click is a press and release, then a press that the double click follows.
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(index).center());
         QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(index).center());
-        QWidget *editor = table->indexWidget(index);
-        QCOMPARE(editor != nullptr, !action.isEmpty());
+        QWidget *editor = table->indexWidget(index); QCOMPARE(editor != nullptr, !action.isEmpty());
         const QString choice = action.section(' ', 0, 0);
         if (auto *box = qobject_cast<QComboBox *>(editor)) {
             QCOMPARE(box->itemText(0) + "|" + box->currentText(), "|" + old);
-            QCOMPARE(box->geometry(), table->visualRect(index));
-            box->setCurrentIndex(box->findText(choice));
+            QCOMPARE(box->geometry(), table->visualRect(index)); box->setCurrentIndex(box->findText(choice));
             QTRY_COMPARE(QToolTip::text(), tip); // while the box is open
         } else if (auto *picker = qobject_cast<StaffsSelect *>(editor)) {
             // Capped by the table's height (here small) less 40 pixels.
@@ -94,29 +89,23 @@ private slots:
         }
         if (editor)
             QTest::keyClick(QApplication::focusWidget(), action.endsWith("Return") ? Qt::Key_Return : Qt::Key_Escape);
-        QTRY_VERIFY(!table->indexWidget(index));
-        QTEST(scheduleTable().join(","), "stored");
+        QTRY_VERIFY(!table->indexWidget(index)); QTEST(scheduleTable().join(","), "stored");
         QCOMPARE(window->tipText, tip);
         const QTableWidgetItem *item = table->item(index.row(), index.column());
         QTEST(item ? item->text() + "|" + item->data(Qt::UserRole).toString() : "|", "shown");
-        QCOMPARE(table->rowHeight(index.row()), f[0] == "1" ? 50 : height);
-        QToolTip::hideText();
+        QCOMPARE(table->rowHeight(index.row()), f[0] == "1" ? 50 : height); QToolTip::hideText();
     }
     // The picker hangs down from its cell; near the bottom it opens upward from the cell's bottom
     // edge, and never above the table's top.
     void pickerGeometry()
     {
-        setOption("employee lock schedule", true);
-        window->settingsChange();
-        window->ui->tableWidget->resize(400, 300);
-        window->ui->tableWidget->setRowHeight(0, 30);
-        QWidget editor;
-        QStyleOptionViewItem option;
+        setOption("employee lock schedule", true); window->settingsChange();
+        window->ui->tableWidget->resize(400, 300); window->ui->tableWidget->setRowHeight(0, 30);
+        QWidget editor; QStyleOptionViewItem option;
         for (const auto &[top, height, expected] : QList<std::tuple<int, int, QRect>>{
                  {0, 100, {10, 0, 100, 100}}, {151, 110, {10, 151, 100, 110}}, {200, 100, {10, 130, 100, 100}},
                  {250, 400, {10, 0, 100, 400}}}) {
-            window->editorHeight = height;
-            option.rect = QRect(10, top, 100, 30);
+            window->editorHeight = height; option.rect = QRect(10, top, 100, 30);
             window->ui->tableWidget->itemDelegate()->updateEditorGeometry(&editor, option,
                                                                           window->ui->tableWidget->model()->index(0, 0));
             QCOMPARE(editor.geometry(), expected);
@@ -139,18 +128,15 @@ private slots:
     {
         QFETCH(QString, load); QFETCH(int, height);
         QVERIFY(writePlan("group G H K | staff 1/G 2/G 3/G 9/K | shift Se/S Tn/T | row G/Se/1 G/Tn/1 H/Se/1"));
-        const QStringList f = load.split(' ');
-        StaffsSelect picker(nullptr, f[0] == "1", f[1] == "1");
-        QSignalSpy changed(&picker, &StaffsSelect::staffChanged);
-        picker.setData("", 0, "-1", 0);
+        const QStringList f = load.split(' '); StaffsSelect picker(nullptr, f[0] == "1", f[1] == "1");
+        QSignalSpy changed(&picker, &StaffsSelect::staffChanged); picker.setData("", 0, "-1", 0);
         picker.setData(f[5], f[2].toInt(), f[3], f[4].toInt()); // the list of the first load goes
         QStringList shown;
         for (int i = 0; i < picker.ui->lst_staffs->count(); ++i) {
             const QListWidgetItem *item = picker.ui->lst_staffs->item(i);
             shown << item->text() + (item->checkState() == Qt::Checked ? "+" : item->isSelected() ? "*" : "");
         }
-        QTEST(shown.join(' '), "items");
-        QCOMPARE(picker.height() + picker.viewHeight, 2 * height);
+        QTEST(shown.join(' '), "items"); QCOMPARE(picker.height() + picker.viewHeight, 2 * height);
         QTEST(picker.getData(true) + " " + picker.getData(false), "data");
         QCOMPARE(changed.count(), 0); // loading emits nothing
     }

@@ -58,8 +58,7 @@ private slots:
     void rules()
     {
         const QString kind = field("subject").section(' ', 0, 0), value = field("subject").section(' ', 1);
-        const QDate date = QDate::fromString(field("date"), Qt::ISODate);
-        const QStringList n = value.split(' ');
+        const QDate date = QDate::fromString(field("date"), Qt::ISODate); const QStringList n = value.split(' ');
         QString answer = kind == "demand" ? QString::number(window->getStaffNum(value, date, date.dayOfWeek() - 1)) : QString();
         if (kind == "share") {
             window->assignStats = record({{"S_ave", n[0]}, {"S_ass", n[2]}, {"S_int", n[3]}, {"S_num", n[4]}, {"S_ovr", n[5]}});
@@ -116,31 +115,26 @@ private slots:
     }
     void run()
     {
-        QVERIFY(plan(field("plan")));
-        const QString flags = field("flags"), view = flags.section(' ', -1);
+        QVERIFY(plan(field("plan"))); const QString flags = field("flags"), view = flags.section(' ', -1);
         window->employeeLockSchedule = flags.contains("lock");
         setView(window, view.left(1).toInt(), view.left(1).toInt() ? view.mid(1) : QString());
         QVector<int> draws;
         for (const QString &draw : field("draws").split(' ')) draws << draw.toInt();
-        scriptDraws(draws);
-        window->cycleDates = daysFrom(kMonday, field("days").toInt());
+        scriptDraws(draws); window->cycleDates = daysFrom(kMonday, field("days").toInt());
         QVERIFY(window->auto_schedule(window->cycleDates, !flags.contains("keep")));
-        QCOMPARE(table(), field("table"));
-        QCOMPARE(drawsTaken(), int(draws.size()));
+        QCOMPARE(table(), field("table")); QCOMPARE(drawsTaken(), int(draws.size()));
         QString stats, order;
         for (int i : window->shuffledStaff) order += QString::number(i);
         for (const QString &key : field("stats").split(QRegularExpression("=\\S* ?"), Qt::SkipEmptyParts))
             stats += key + '=' + (key == "order" ? order : window->assignStats.attr(key, QString())) + ' ';
-        QCOMPARE(stats.trimmed(), field("stats"));
-        QVERIFY(window->holidays.isEmpty() && window->vacations.isEmpty());
+        QCOMPARE(stats.trimmed(), field("stats")); QVERIFY(window->holidays.isEmpty() && window->vacations.isEmpty());
     }
     // The second command's span (the cycle's first date and length in calendar days, work days only) bounds what is deleted
     // and kept, but the whole cycle is filled, so a second run meets the first's Thursday and fails. Cancel ends a command.
     void commands()
     {
         QVERIFY(plan("staff A/G | row G/S/1;1;1;1;0;0;0 | schedule 2026-03-02/G/S/x 2026-03-04/G/S/y 2026-03-11/G/S/w"));
-        setView(window, 0);
-        window->employeeLockSchedule = false;
+        setView(window, 0); window->employeeLockSchedule = false;
         window->ui->date_current->setDate(kMonday);
         Boxes boxes({QMessageBox::Cancel, QMessageBox::No, QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::No, QMessageBox::Yes});
         QStringList after;
@@ -150,8 +144,7 @@ private slots:
             setOption("work week", i < 4 ? "3" : "1,2,3,4,5,6,7");
             if (i < 4)
                 whenDialogOpens<RosteraSettings>([i, &after](RosteraSettings *dialog) { i ? dialog->accept() : dialog->reject(); after << QString("%1 days").arg(dialog->cycleDays); });
-            i < 4 ? window->on_auto_date_schedule() : window->on_auto_schedule();
-            after << table().remove(" G S");
+            i < 4 ? window->on_auto_date_schedule() : window->on_auto_schedule(); after << table().remove(" G S");
             if (i == 2) // the grid, by schedule here, shows what was written
                 after << window->ui->tableWidget->model()->index(0, 1).data().toString() + " on " + window->cycleDates.value(1).toString("MM-dd");
         }
@@ -177,10 +170,8 @@ private slots:
         Boxes boxes;
         QString results;
         for (const char *value : {"<dt t='1' sdt='2026-03-10' edt='2026-03-09'/>", "<dt t='0'/>", "<dt t='1' edt='2026-03-10'/>", "<dt t='1' week='3'/>", "<dt t='1' dayweek='3'/>"}) {
-            dates.setData(value);
-            dates.setResult(QDialog::Rejected);
-            dates.accept();
-            results += QString::number(dates.result());
+            dates.setData(value); dates.setResult(QDialog::Rejected);
+            dates.accept(); results += QString::number(dates.result());
         }
         QCOMPARE(results, QString("01001"));
         QCOMPARE(boxes.texts, QStringList({"End date can't set before start date.", "Please select a week.", "Please select a day of week."}));

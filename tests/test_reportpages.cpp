@@ -20,23 +20,17 @@ static QList<QStringList> runReport(int kind, const QString &options)
     QScopedPointer<RosteraMain> window(option.contains("lock") ? openWindow() : nullptr);
     if (window)
         window->employeeLockSchedule = true;
-    Reports r;
-    r.ui->listWidget->setCurrentRow(kind);
+    Reports r; r.ui->listWidget->setCurrentRow(kind);
     r.ui->cmb_group->setCurrentText("G"), r.ui->cmb_person->setCurrentText("A");
     r.ui->date_from->setDate(QDate::fromString(option.value("from", "2026-03-02"), Qt::ISODate));
     r.ui->date_to->setDate(QDate::fromString(option.value("to", "2026-03-08"), Qt::ISODate));
-    r.use24h = option.contains("24h");
-    r.workWeek = option.value("week", "1,2,3,4,5,6,7").split(',');
+    r.use24h = option.contains("24h"); r.workWeek = option.value("week", "1,2,3,4,5,6,7").split(',');
     r.reportSettings[kind] = record({{"title", option.value("title")}, {"printDetail", option.value("detail", "0")}});
-    QTemporaryDir dir;
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(dir.filePath("report.pdf"));
-    r.printPreview(&printer);
-    QProcess pdftotext;
+    QTemporaryDir dir; QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat); printer.setOutputFileName(dir.filePath("report.pdf"));
+    r.printPreview(&printer); QProcess pdftotext;
     pdftotext.start("pdftotext", {"-layout", printer.outputFileName(), "-"});
-    pdftotext.waitForFinished();
-    QList<QStringList> pages;
+    pdftotext.waitForFinished(); QList<QStringList> pages;
     const QString out = QString::fromUtf8(pdftotext.readAllStandardOutput()).replace(QRegularExpression(" +"), " ");
     for (const QString &page : out.split('\f', Qt::SkipEmptyParts))
         pages << page.trimmed().split(QRegularExpression(" *\n[ \n]*"));
@@ -105,10 +99,8 @@ private slots:
     void pages()
     {
         QFETCH(int, kind); QFETCH(QString, options); QFETCH(QStringList, lines); QFETCH(QString, plan); QFETCH(int, pages);
-        QVERIFY(writePlan(plan));
-        const QList<QStringList> text = runReport(kind, options);
-        QVERIFY(pages ? text.size() == pages : text.size() > 1);
-        QStringList all;
+        QVERIFY(writePlan(plan)); const QList<QStringList> text = runReport(kind, options);
+        QVERIFY(pages ? text.size() == pages : text.size() > 1); QStringList all;
         // Each page of a continued report has a body and its number (maybe beside a row run over the footer).
         for (int p = 0; p < text.size(); all += text[p++])
             QVERIFY(text.size() == 1

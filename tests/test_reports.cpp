@@ -94,16 +94,14 @@ private slots:
         dialog.ui->date_to->setDate(dialog.ui->date_from->date()), whenDialogOpens<QFileDialog>([](QFileDialog *d) { d->reject(); });
         QCOMPARE(print(dialog, 8, "G", "") + config().value(margins).toString(), "no file|junk");
         QCOMPARE(print(dialog, 8, "G", "", true), "no file|Print failed");
-        QCOMPARE(config().value(margins).toRectF(), QRectF(0, 0, 0, 0));
-        config().remove(margins), print(dialog, 8, "G", "");
+        QCOMPARE(config().value(margins).toRectF(), QRectF(0, 0, 0, 0)); config().remove(margins), print(dialog, 8, "G", "");
         QCOMPARE(config().value(margins).toRectF(), QRectF(0.2, 0.2, 0.2, 0.2));
     }
     // Titles and detail switches reach the stored text and the open dialog on acceptance only. The
     // monthly reports have no page in the settings dialog, yet their stored titles survive.
     void settings()
     {
-        const char *key = "print settings/print configure";
-        config().setValue(key, "not xml");
+        const char *key = "print settings/print configure"; config().setValue(key, "not xml");
         QCOMPARE(Reports().reportSettings, QVector<ASAttribute>(12));
         config().setValue(key, "<report><type3 title='T'/><type10 printDetail='1'/></report>"); Reports dialog;
         for (bool accept : {false, true}) {

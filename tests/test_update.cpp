@@ -21,10 +21,8 @@ class UpdateTest : public QObject
 {
     Q_OBJECT
     QTcpServer host;
-    QMap<QByteArray, QByteArray> answers;
-    QPointer<QTcpSocket> last;
-    QList<QUrl> opened;
-    RosteraMain *window = nullptr;
+    QMap<QByteArray, QByteArray> answers; QPointer<QTcpSocket> last;
+    QList<QUrl> opened; RosteraMain *window = nullptr;
     const QString tmp = TestHome::path() + "/tmp", hostUrl = "http://127.0.0.1:%1";
 
 public slots:
@@ -43,8 +41,7 @@ private slots:
                 answer.isEmpty() ? socket->close() : void(socket->write(answer));
             });
         });
-        QDesktopServices::setUrlHandler("file", this, "openUrl");
-        QVERIFY(QDir().mkpath(tmp) && (window = openWindow()));
+        QDesktopServices::setUrlHandler("file", this, "openUrl"); QVERIFY(QDir().mkpath(tmp) && (window = openWindow()));
     }
     void cleanupTestCase() { QDesktopServices::unsetUrlHandler("file"); }
     // One path for all: the start-up check (its option off) and the dialog read the version file, the update
@@ -75,13 +72,10 @@ private slots:
         QFETCH(QString, offered); QFETCH(int, progress); QFETCH(QStringList, messages); QFETCH(qint64, bytes);
         answers = {{SoftUpdate::versionFile, http(file)}, {SoftUpdate::installerFile, installer}};
         SoftUpdate::server = hostUrl.arg(file.isEmpty() ? 1 : host.serverPort());
-        qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8());
-        QFile::remove(tmp + "/rtrupdate.exe"), opened.clear();
+        qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8()); QFile::remove(tmp + "/rtrupdate.exe"), opened.clear();
         QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("auto update", false);
-        window->ui->action_Update->setVisible(false);
-        window->checkUpdate();
-        SoftUpdate dialog;
-        dialog.show();
+        window->ui->action_Update->setVisible(false); window->checkUpdate();
+        SoftUpdate dialog; dialog.show();
         QTRY_VERIFY(!dialog.versionReply && !window->findChild<QNetworkAccessManager *>());
         QCOMPARE(dialog.ui->lab_version->text(), offered.isEmpty() ? QString("Current[3.5.9] is the latest version")
                                                                    : QString("New version[%1] available, current version[3.5.9]").arg(offered));
@@ -89,8 +83,7 @@ private slots:
         QCOMPARE(window->ui->action_Update->isVisible(), !offered.isEmpty());
         QCOMPARE(dialog.ui->btn_update->isEnabled(), !offered.isEmpty());
         Boxes boxes({QMessageBox::No, QMessageBox::Yes});
-        QTest::mouseClick(dialog.ui->btn_update, Qt::LeftButton);
-        const int questions = messages.filter("cancel?").size();
+        QTest::mouseClick(dialog.ui->btn_update, Qt::LeftButton); const int questions = messages.filter("cancel?").size();
         QTRY_VERIFY(questions ? dialog.ui->progressBar->value() == progress : boxes.texts.size() == messages.size());
         QTRY_VERIFY(!QApplication::activeModalWidget());
         for (int click = 0; click < 2 && dialog.isVisible(); ++click)
@@ -98,8 +91,7 @@ private slots:
         QTRY_VERIFY(!dialog.isVisible() && (!last || last->state() == QAbstractSocket::UnconnectedState));
         QCOMPARE(boxes.texts, messages);
         QCOMPARE(boxes.titles, QStringList(messages.size(), questions ? "Software Update" : ""));
-        QCOMPARE(dialog.ui->progressBar->value(), progress);
-        QCOMPARE(QFileInfo(tmp + "/rtrupdate.exe").size(), bytes);
+        QCOMPARE(dialog.ui->progressBar->value(), progress); QCOMPARE(QFileInfo(tmp + "/rtrupdate.exe").size(), bytes);
         QCOMPARE(opened, QList<QUrl>(messages.value(0).startsWith("Download update file finish"), QUrl::fromLocalFile(tmp)));
     }
     // With the option unset (on), a newer version opens the dialog, whose check box turns the option off.
@@ -109,8 +101,7 @@ private slots:
         SoftUpdate::server = hostUrl.arg(host.serverPort());
         QSettings(getAppDataPath(0), QSettings::IniFormat).remove("auto update");
         whenDialogOpens<SoftUpdate>([](SoftUpdate *dialog) {
-            QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton);
-            dialog->reject();
+            QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton); dialog->reject();
         });
         window->checkUpdate();
         QTRY_COMPARE(QSettings(getAppDataPath(0), QSettings::IniFormat).value("auto update"), QVariant(false));
