@@ -40,6 +40,8 @@ db.execute("insert into t_schedule values ('2026-03-02', 'G', 'S', 'E1;E2')")
 db.commit()
 PY
 
+export LSAN_OPTIONS="suppressions=$PWD/fuzz/lsan.supp"
+rm -rf build-fuzz/crashes
 status=0
 for target in csv staffnum xml opendb; do
     mkdir -p "build-fuzz/corpus/$target" "build-fuzz/crashes/$target"
