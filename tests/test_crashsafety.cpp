@@ -42,6 +42,7 @@ static int child(const QString &kind, const QString &file)
         return 1;
     RosteraMain window; window.cycleDates = daysFrom(kMonday, 31);
     Boxes boxes({}, QMessageBox::Yes); // the copy's questions
+    fputs("saving\n", stdout), fflush(stdout); // the parent's clock starts here, whatever the start-up took
     for (int round = 0;; ++round) {
         if (kind == "generation")
             window.auto_schedule(window.cycleDates, true);
@@ -80,7 +81,8 @@ private slots:
         for (int kill = 0; kill < 25; ++kill) {
             QProcess process;
             process.start(QCoreApplication::applicationFilePath(), {"child", kind, file});
-            QVERIFY(process.waitForStarted()); QThread::msleep(QRandomGenerator::global()->bounded(50, 320));
+            QVERIFY(process.waitForStarted() && process.waitForReadyRead(20000));
+            QThread::msleep(QRandomGenerator::global()->bounded(1, 150));
             process.kill(); QVERIFY(process.waitForFinished());
             QVERIFY(getDB()->openDB(file));
             QCOMPARE(rows("PRAGMA integrity_check"), QList<QStringList>{{"ok"}});
