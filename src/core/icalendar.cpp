@@ -2,43 +2,51 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QSet>
 
 #include "core/appinfo.h"
 #include "core/helpers.h"
 #include "persistence/databasefunc.h"
 
-QVector<CalendarEvent> employeeEvents(const QString &id, const QDate &first, const QDate &last, bool customers)
+QHash<QString, QVector<CalendarEvent>> scheduledEvents(const QStringList &ids, const QDate &first, const QDate &last,
+                                                       bool customers)
 {
     QVector<ASAttribute> records;
     getDB()->schedule(records, QString("date>='%1' and date<='%2' order by date,groupname,shiftname")
                                    .arg(first.toString("yyyy-MM-dd"), last.toString("yyyy-MM-dd")));
-    QVector<CalendarEvent> events;
+    const QSet<QString> chosen(ids.begin(), ids.end());
+    QHash<QString, QVector<CalendarEvent>> events;
     for (const ASAttribute &record : records) {
-        if (!record.attr("staffs", QString()).split(';').contains(id))
+        const QDate date = QDate::fromString(record.attr("date", QString()), "yyyy-MM-dd");
+        if (!date.isValid())
             continue;
         const QString group = record.attr("groupname", QString());
         const QString shiftName = record.attr("shiftname", QString());
-        CalendarEvent event;
-        event.date = QDate::fromString(record.attr("date", QString()), "yyyy-MM-dd");
-        if (!event.date.isValid())
-            continue;
-        // The same assignment keeps its identity over exports.
-        const QByteArray key = QStringList{record.attr("date", QString()), group, shiftName, id}.join(QChar(0)).toUtf8();
-        event.uid = event.date.toString("yyyyMMdd") + "-"
-                    + QCryptographicHash::hash(key, QCryptographicHash::Sha1).toHex().left(24) + "@rostera";
         ASAttribute shift;
         getShiftByName(shiftName, shift);
         const QTime start = QTime::fromString(shift.attr("starttm", QString()), "hh:mm");
         const QTime end = QTime::fromString(shift.attr("endtm", QString()), "hh:mm");
+        CalendarEvent event;
+        event.date = date;
         if (start.isValid() && end.isValid()) {
-            event.start = QDateTime(event.date, start);
-            event.end = QDateTime(end > start ? event.date : event.date.addDays(1), end);
+            event.start = QDateTime(date, start);
+            event.end = QDateTime(end > start ? date : date.addDays(1), end);
         }
         event.summary = (customers ? QCoreApplication::translate("CalendarExport", "Customer: %1")
                                    : QCoreApplication::translate("CalendarExport", "Shift: %1"))
                             .arg(shiftName)
                         + (group.isEmpty() ? QString() : " (" + group + ")");
-        events.append(event);
+        QStringList staffs = record.attr("staffs", QString()).split(';');
+        staffs.removeDuplicates();
+        for (const QString &id : staffs) {
+            if (!chosen.contains(id))
+                continue;
+            // The same assignment keeps its identity over exports.
+            const QByteArray key = QStringList{record.attr("date", QString()), group, shiftName, id}.join(QChar(0)).toUtf8();
+            event.uid = date.toString("yyyyMMdd") + "-"
+                        + QCryptographicHash::hash(key, QCryptographicHash::Sha1).toHex().left(24) + "@rostera";
+            events[id].append(event);
+        }
     }
     return events;
 }

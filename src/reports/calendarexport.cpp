@@ -60,9 +60,8 @@ QStringList CalendarExport::chosenIds() const
     return ids;
 }
 
-bool CalendarExport::writeCalendar(const QString &path, const QString &id)
+bool CalendarExport::writeCalendar(const QString &path, const QVector<CalendarEvent> &events)
 {
-    const QVector<CalendarEvent> events = employeeEvents(id, ui->date_from->date(), ui->date_to->date(), m_customers);
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(calendarText(events, QDateTime::currentDateTimeUtc())) >= 0
         && file.commit())
@@ -78,9 +77,12 @@ void CalendarExport::accept()
         QMessageBox::information(this, QString(), tr("Choose one employee for a single file."));
         return;
     }
+    const QStringList ids = chosenIds();
+    const QHash<QString, QVector<CalendarEvent>> events =
+        scheduledEvents(ids, ui->date_from->date(), ui->date_to->date(), m_customers);
     QStringList scheduled;
-    for (const QString &id : chosenIds()) {
-        if (!employeeEvents(id, ui->date_from->date(), ui->date_to->date(), m_customers).isEmpty())
+    for (const QString &id : ids) {
+        if (events.contains(id))
             scheduled << id;
     }
     if (scheduled.isEmpty()) {
@@ -94,7 +96,7 @@ void CalendarExport::accept()
     if (target.isEmpty())
         return;
     for (const QString &id : scheduled) {
-        if (!writeCalendar(oneFile ? target : target + "/" + id + ".ics", id))
+        if (!writeCalendar(oneFile ? target : target + "/" + id + ".ics", events.value(id)))
             return;
     }
     QMessageBox::information(this, QString(), tr("%n calendar file(s) written.", nullptr, int(scheduled.size())));

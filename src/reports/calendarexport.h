@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QStringList>
 
+#include "core/icalendar.h"
+
 class RosteraMain;
 class Ui_CalendarExport;
 
@@ -25,6 +27,6 @@ public slots:
 private:
     void fillPeople();
     // Writes the file whole or not at all; false with a warning when it cannot be written.
-    bool writeCalendar(const QString &path, const QString &id);
+    bool writeCalendar(const QString &path, const QVector<CalendarEvent> &events);
     bool m_customers = false;
 };
