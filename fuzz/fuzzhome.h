@@ -13,20 +13,16 @@
 
 #include "mainwindow/appstart.h"
 
-inline QString fuzzHome()
-{
-    static QString home;
-    return home;
-}
-
 inline QApplication *fuzzApplication()
 {
     static QString home = [] {
-        char pattern[] = "/tmp/rostera-fuzz-XXXXXX";
-        const QString path = QString::fromLocal8Bit(mkdtemp(pattern));
+        // In memory where the system offers it: every input is written to a file first.
+        QByteArray pattern = QDir("/dev/shm").exists() ? "/dev/shm/rostera-fuzz-XXXXXX" : "/tmp/rostera-fuzz-XXXXXX";
+        const QString path = QString::fromLocal8Bit(mkdtemp(pattern.data()));
         for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
             setenv(name, path.toLocal8Bit(), 1);
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        std::atexit([] { QDir(QString::fromLocal8Bit(qgetenv("HOME"))).removeRecursively(); });
         return path;
     }();
     static int argc = 1;
