@@ -15,7 +15,9 @@ void RosteraMain::calcFromToDay()
     QSettings settings(getAppDataPath(0), QSettings::IniFormat);
     settings.beginGroup("Options");
     const int showFromWeek = settings.value("show from week", 0).toInt();
-    const int cycleDays = settings.value("cycle days", 7).toInt();
+    // Any number a hand-edited file holds is taken, up to the longest span that the dialogs offer:
+    // beyond it the columns would only exhaust memory.
+    const int cycleDays = qMin(settings.value("cycle days", 7).toInt(), 999);
     // A value written by hand without quotes comes back as a list; join it to the same text.
     const QStringList workWeek = settings.value("work week", "1,2,3,4,5,6,7").toStringList().join(",").split(",");
 

@@ -1,7 +1,9 @@
 #include "persistence/databasefunc.h"
 
 #include <QDebug>
+#include <QObject>
 #include <QSettings>
+#include <QSqlError>
 #include <QSqlQuery>
 
 #include "core/apppaths.h"
@@ -67,7 +69,7 @@ bool DatabaseFunc::openDB(QString name)
         db = QSqlDatabase::addDatabase("QSQLITE", QSqlDatabase::defaultConnection);
     db.close();
     db.setDatabaseName(name);
-    if (!db.open()) {
+    if (!db.open() || isBusy()) {
         db.setDatabaseName(previous);
         db.open();
         return false;
@@ -85,6 +87,18 @@ bool DatabaseFunc::openDB(QString name)
     list.clear();
     permanentSchedule(list);
     return true;
+}
+
+bool DatabaseFunc::isBusy()
+{
+    // SQLite opens lazily: a file that another program holds locked opens fine, and then every
+    // query waits out the busy timeout and fails. Such a file is refused like one that cannot be
+    // opened, after one wait, rather than after a wait per table and with the old file's lists.
+    QSqlQuery probe(db);
+    if (probe.exec("SELECT COUNT(*) FROM sqlite_master"))
+        return false;
+    const QString code = probe.lastError().nativeErrorCode();
+    return code == "5" || code == "6"; // SQLITE_BUSY, SQLITE_LOCKED
 }
 
 void DatabaseFunc::closeDB()
@@ -138,6 +152,11 @@ void DatabaseFunc::updateDB()
             query.exec(QString("INSERT INTO t_version (version) VALUES ('%1')").arg(version));
         seedTable(name);
     }
-    if (getVersion() <= QString("1.00"))
+    const QString found = getVersion();
+    if (found <= QString("1.00"))
         upgradeSchema();
+    else if (found > QString(kCurrentVersion))
+        showWarning(QObject::tr("This plan has the database version %1, which is newer than this program knows (%2). "
+                                "It is opened as it is; saving may lose what the newer version keeps.")
+                        .arg(found, kCurrentVersion));
 }

@@ -52,6 +52,11 @@ public:
 
     static QString getValidStr(QString s);
 
+    // The schema version that this program writes and knows.
+    static constexpr const char *kCurrentVersion = "1.01";
+    // Whether the open file is locked by another connection.
+    bool isBusy();
+
 private:
     // Fills a table just created from its template file, if it has one.
     void seedTable(const QString &table);

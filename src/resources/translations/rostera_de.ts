@@ -217,6 +217,10 @@
         <source>Update database failed!</source>
         <translation>Die Datenbank konnte nicht aktualisiert werden!</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>Dieser Plan hat die Datenbankversion %1, die neuer ist, als dieses Programm kennt (%2). Er wird geöffnet, wie er ist; beim Speichern kann verloren gehen, was die neuere Version aufbewahrt.</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

@@ -217,6 +217,10 @@
         <source>Update database failed!</source>
         <translation>¡No se pudo actualizar la base de datos!</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>Este plan tiene la versión de base de datos %1, más nueva de la que conoce este programa (%2). Se abre tal como está; al guardar puede perderse lo que guarda la versión más nueva.</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

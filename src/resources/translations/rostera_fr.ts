@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>The calendar file %1 could not be written.</source>
-        <translation>Impossible d'écrire le fichier de calendrier %1.</translation>
+        <translation>Impossible d&apos;écrire le fichier de calendrier %1.</translation>
     </message>
     <message>
         <source>Choose one employee for a single file.</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Nothing is scheduled for the chosen employees in this span.</source>
-        <translation>Rien n'est planifié pour les employés choisis sur cette période.</translation>
+        <translation>Rien n&apos;est planifié pour les employés choisis sur cette période.</translation>
     </message>
     <message>
         <source>iCalendar File(*.ics)</source>
@@ -216,6 +216,10 @@
     <message>
         <source>Update database failed!</source>
         <translation>Échec de la mise à jour de la base de données&#xa0;!</translation>
+    </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>Ce plan a la version de base de données %1, plus récente que celle que connaît ce programme (%2). Il est ouvert tel quel ; un enregistrement peut perdre ce que conserve la version plus récente.</translation>
     </message>
 </context>
 <context>

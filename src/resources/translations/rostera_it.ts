@@ -217,6 +217,10 @@
         <source>Update database failed!</source>
         <translation>Impossibile aggiornare il database!</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>Questo piano ha la versione di database %1, più recente di quella che questo programma conosce (%2). Viene aperto così com'è; salvando si può perdere ciò che la versione più recente conserva.</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

@@ -216,6 +216,10 @@
         <source>Update database failed!</source>
         <translation>データベースを更新できませんでした。</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>このプランのデータベース バージョン %1 は、このプログラムが知っているバージョン (%2) より新しいものです。そのまま開きますが、保存すると新しいバージョンが保持する内容が失われることがあります。</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

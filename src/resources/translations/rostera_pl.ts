@@ -218,6 +218,10 @@
         <source>Update database failed!</source>
         <translation>Nie udało się zaktualizować bazy danych!</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>Ten plan ma wersję bazy danych %1, nowszą niż zna ten program (%2). Zostaje otwarty bez zmian; zapisanie może utracić to, co przechowuje nowsza wersja.</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

@@ -218,6 +218,10 @@
         <source>Update database failed!</source>
         <translation>Не удалось обновить базу данных!</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>У этого плана версия базы данных %1, более новая, чем знает эта программа (%2). Он открыт как есть; при сохранении может потеряться то, что хранит более новая версия.</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

@@ -216,6 +216,10 @@
         <source>Update database failed!</source>
         <translation>数据库更新失败！</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>此计划的数据库版本为 %1，比本程序所知的版本（%2）更新。将按原样打开；保存时可能丢失较新版本保存的内容。</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>

@@ -216,6 +216,10 @@
         <source>Update database failed!</source>
         <translation>資料庫更新失敗！</translation>
     </message>
+    <message>
+        <source>This plan has the database version %1, which is newer than this program knows (%2). It is opened as it is; saving may lose what the newer version keeps.</source>
+        <translation>此計畫的資料庫版本為 %1，比本程式所知的版本（%2）更新。將按原樣開啟；儲存時可能遺失較新版本保存的內容。</translation>
+    </message>
 </context>
 <context>
     <name>RecordEditor</name>
