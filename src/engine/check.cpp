@@ -42,8 +42,7 @@ QStringList RosteraMain::checkSchedule(bool repair)
         holidayAt.append(checkHoliday(date));
         dateTexts.append(date.toString("yyyy-MM-dd"));
     }
-    const GroupRecords recordsOf([db](QVector<ASAttribute> &list, QString filter) { return db->schedule(list, filter); },
-                                 QString(" and date>='%1' and date<='%2'").arg(first, last));
+    const GroupRecords recordsOf = GroupRecords::ofSchedule(QString(" and date>='%1' and date<='%2'").arg(first, last));
     QVector<ASAttribute> records;
     std::optional<ScheduleIndex> recordAt;
     QVector<ASAttribute> updates;

@@ -4,6 +4,7 @@
 #include "core/textmemo.h"
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
+#include "persistence/databasefunc.h"
 #include "ui_rosteramain.h"
 
 bool isOneGroupView(RosteraMain *window)
@@ -87,6 +88,11 @@ GroupRecords::GroupRecords(const Read &read, const QString &rest)
     m_readOk = m_read(all, "typeof(groupname)='text'" + rest);
     for (const ASAttribute &record : all)
         m_byGroup[record.attr("groupname", QString())].append(record);
+}
+
+GroupRecords GroupRecords::ofSchedule(const QString &rest)
+{
+    return GroupRecords([](QVector<ASAttribute> &list, QString filter) { return getDB()->schedule(list, filter); }, rest);
 }
 
 bool GroupRecords::of(const QString &group, QVector<ASAttribute> &out) const

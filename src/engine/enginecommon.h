@@ -100,6 +100,8 @@ public:
     using Read = std::function<bool(QVector<ASAttribute> &, QString)>;
     // rest: what follows the group's condition in the filter, empty or " and ...".
     GroupRecords(const Read &read, const QString &rest);
+    // The schedule table's records by group.
+    static GroupRecords ofSchedule(const QString &rest);
     // Appends the group's records to out; false where that group's read would fail.
     bool of(const QString &group, QVector<ASAttribute> &out) const;
 

@@ -171,23 +171,23 @@ void RosteraMain::refreshTable()
     // name changes the condition.
     std::optional<GroupRecords> groupRecords;
     if (!employeeLockSchedule)
-        groupRecords.emplace([](QVector<ASAttribute> &list, QString filter) { return getDB()->schedule(list, filter); },
-                             QString(view == 1 ? " and typeof(shiftname)='text'" : "") + " and " + dateFilter);
+        groupRecords = GroupRecords::ofSchedule(QString(view == 1 ? " and typeof(shiftname)='text'" : "") + " and " + dateFilter);
     // One query serves a run of rows of the same group (and, by schedule, the same shift).
     for (int r = 0; r < gridRows.size();) {
         const QString group = gridRows.at(r).attr("groupname", QString());
         const QString shift = gridRows.at(r).attr("shiftname", QString());
-        QString filter = employeeLockSchedule ? dateFilter : QString("groupname='%1'").arg(group) + " and " + dateFilter;
-        if (view == 1)
-            filter = QString("%1 and shiftname='%2'").arg(filter, shift);
         QVector<ASAttribute> records;
         if (groupRecords && !(view == 1 && shift.contains('\''))) {
             if (!groupRecords->of(group, records))
                 return;
             if (view == 1)
                 records.removeIf([&shift](const ASAttribute &record) { return record.attr("shiftname", QString()) != shift; });
-        } else if (!getDB()->schedule(records, filter)) {
-            return;
+        } else {
+            QString filter = employeeLockSchedule ? dateFilter : QString("groupname='%1'").arg(group) + " and " + dateFilter;
+            if (view == 1)
+                filter = QString("%1 and shiftname='%2'").arg(filter, shift);
+            if (!getDB()->schedule(records, filter))
+                return;
         }
 
         for (const ASAttribute &record : records) {
