@@ -1,6 +1,5 @@
 // The demand of a row, availability, the rotation, and generation with scripted chance.
 #include "fixture.h"
-#include "core/schedulelookup.h"
 #include "engine/enginecommon.h"
 #include "engine/rosterasettings.h"
 #include "engine/workdateassign.h"
@@ -85,24 +84,6 @@ private slots:
             window->vacations.clear();
         }
         QCOMPARE(answer, field("answer"));
-    }
-    void lookups()
-    {
-        QVector<ASAttribute> list = planRecords("schedule", "2026-03-02/G/S/1 2026-03-02/G/T/2 2026-03-02/G/T/3");
-        QVector<ASAttribute> known;
-        int pos = 0;
-        QVERIFY(getSchedule("2026-03-03", "G", "T", list, &pos)
-                == record({{"infotype", "schedule"}, {"date", "2026-03-03"}, {"groupname", "G"}, {"shiftname", "T"}}));
-        const ScheduleIndex at(list);
-        // The check's list of employees grows from the stored ones, found by group and id.
-        QVERIFY(plan("staff 1/G 2/H"));
-        QCOMPARE(QList<int>({pos, window->getDaySchedule(list, "G", "S", "2026-03-02").attr("staffs", 0),
-                             int(window->getDaySchedule(list, "H", "T", "2026-03-02").values().size()),
-                             at.find("2026-03-02", "G", "T"), at.find("2026-03-02", "H", "T"),
-                             window->checkStaffExist(known, "H", "2"), window->checkStaffExist(known, "G", "1"),
-                             window->checkStaffExist(known, "H", "2"), window->checkStaffExist(known, "H", "1"),
-                             int(known.size())}),
-                 QList<int>({-1, 1, 0, 1, -1, 0, 1, 0, -1, 2}));
     }
     // Plan, days from Monday, flags ("keep", "lock", view and group), every draw; the table, the last group run's
     // counters and order.

@@ -85,11 +85,9 @@ private slots:
         QFETCH(QByteArray, file);
         QFETCH(QByteArray, installer);
         QFETCH(QString, folder);
-        QFETCH(QString, shown);
         QFETCH(QString, offered);
         QFETCH(int, progress);
         QFETCH(QStringList, messages);
-        QFETCH(qint64, bytes);
         answers = {{SoftUpdate::versionFile, http(file)}, {SoftUpdate::installerFile, installer}};
         SoftUpdate::server = hostUrl.arg(file.isEmpty() ? 1 : host.serverPort());
         qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8());
@@ -104,7 +102,7 @@ private slots:
         QCOMPARE(dialog.ui->lab_version->text(),
                  offered.isEmpty() ? QString("Current[3.5.9] is the latest version")
                                    : QString("New version[%1] available, current version[3.5.9]").arg(offered));
-        QCOMPARE(dialog.ui->ed_versionText->toPlainText(), shown);
+        QTEST(dialog.ui->ed_versionText->toPlainText(), "shown");
         QCOMPARE(window->ui->action_Update->isVisible(), !offered.isEmpty());
         QCOMPARE(dialog.ui->btn_update->isEnabled(), !offered.isEmpty());
         Boxes boxes({QMessageBox::No, QMessageBox::Yes});
@@ -118,7 +116,7 @@ private slots:
         QCOMPARE(boxes.texts, messages);
         QCOMPARE(boxes.titles, QStringList(messages.size(), questions ? "Software Update" : ""));
         QCOMPARE(dialog.ui->progressBar->value(), progress);
-        QCOMPARE(QFileInfo(tmp + "/rtrupdate.exe").size(), bytes);
+        QTEST(QFileInfo(tmp + "/rtrupdate.exe").size(), "bytes");
         const bool finished = messages.value(0).startsWith("Download update file finish");
         QCOMPARE(opened, QList<QUrl>(finished, QUrl::fromLocalFile(tmp)));
     }

@@ -189,7 +189,6 @@ private slots:
     void dateSpan()
     {
         QFETCH(QString, options);
-        QFETCH(QString, dates);
         QFETCH(int, marked);
         const QStringList f = options.split(' ');
         setOption("show from week", f[0].toInt());
@@ -208,7 +207,7 @@ private slots:
             QCOMPARE(table->horizontalHeaderItem(column)->foreground().color(),
                      column == marked ? QColor(255, 0, 0) : QColor(Qt::black));
         }
-        QCOMPARE(days.join(" "), dates);
+        QTEST(days.join(" "), "dates");
     }
     void cells_data()
     {
@@ -238,14 +237,13 @@ private slots:
     void cells()
     {
         QFETCH(QString, choice);
-        QFETCH(QString, cells);
         const QStringList f = choice.split(' ');
         const bool lock = f[2] == "1";
         setOption("employee lock schedule", lock);
         window->settingsChange();
         QCOMPARE(window->ui->statusBar->isVisible(), !lock);
         show(f[0].toInt(), f[1].toInt(), f.value(3), f.value(4));
-        QCOMPARE(table(), cells);
+        QTEST(table(), "cells");
         QCOMPARE(window->ui->tableWidget->columnCount(), 7);
         for (const ASAttribute &row : window->gridRows)
             QCOMPARE(row.attr("type", QString()), f[0] == "0" ? "personview" : lock ? "shiftview" : "scheduleview");
