@@ -244,9 +244,6 @@ private slots:
         QCOMPARE(window->ui->statusBar->isVisible(), !lock);
         show(f[0].toInt(), f[1].toInt(), f.value(3), f.value(4));
         QTEST(table(), "cells");
-        QCOMPARE(window->ui->tableWidget->columnCount(), 7);
-        for (const ASAttribute &row : window->gridRows)
-            QCOMPARE(row.attr("type", QString()), f[0] == "0" ? "personview" : lock ? "shiftview" : "scheduleview");
         if (choice.startsWith("0 0"))
             QCOMPARE(table(Qt::UserRole).section(';', 1, 1), QString(" AL--A1+ 0=Day/Night") + (lock ? " 3=Day" : ""));
     }
