@@ -23,15 +23,19 @@ static QString g_home;
 
 TestHome::TestHome()
 {
-    char pattern[] = "/tmp/rostera-test-XXXXXX"; g_home = QString::fromLocal8Bit(mkdtemp(pattern));
-    const QByteArray home = g_home.toLocal8Bit(); setenv("HOME", home, 1);
+    char pattern[] = "/tmp/rostera-test-XXXXXX";
+    g_home = QString::fromLocal8Bit(mkdtemp(pattern));
+    const QByteArray home = g_home.toLocal8Bit();
+    setenv("HOME", home, 1);
     for (const char *name : {"XDG_DATA_HOME=/.local/share", "XDG_CONFIG_HOME=/.config", "XDG_CACHE_HOME=/.cache",
                              "XDG_RUNTIME_DIR=/run", "TMPDIR=/tmp"}) {
-        const QList<QByteArray> pair = QByteArray(name).split('='); QDir().mkpath(home + pair[1]);
+        const QList<QByteArray> pair = QByteArray(name).split('=');
+        QDir().mkpath(home + pair[1]);
         setenv(pair[0], home + pair[1], 1);
     }
     QFile::setPermissions(g_home + "/run", QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    setenv("QT_QPA_PLATFORM", "offscreen", 0); setApplicationIdentity();
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setApplicationIdentity();
     // Every window asks its update host at start: a closed loopback port, never the network.
     SoftUpdate::server = "http://127.0.0.1:1";
     Q_INIT_RESOURCE(rostera);
@@ -69,13 +73,15 @@ static const QMap<QString, QList<std::pair<QString, QString>>> kPlanFields = {
 
 QVector<ASAttribute> planRecords(const QString &kind, const QString &items)
 {
-    const auto fields = kPlanFields.value(kind); QVector<ASAttribute> list;
+    const auto fields = kPlanFields.value(kind);
+    QVector<ASAttribute> list;
     for (const QString &item : items.split(' ', Qt::SkipEmptyParts)) {
-        const QStringList values = item.split('/'); ASAttribute r;
+        const QStringList values = item.split('/');
+        ASAttribute r;
         for (int i = 0; i < fields.size(); ++i) {
             QString value = values.value(i, fields[i].second);
             if (i >= values.size() && value.endsWith('='))
-                value.chop(1), value += values.value(0);
+                value = value.chopped(1) + values.value(0);
             r.setAttr(fields[i].first, value);
         }
         list << r;
@@ -83,20 +89,38 @@ QVector<ASAttribute> planRecords(const QString &kind, const QString &items)
     return list;
 }
 
+bool saveRecords(const QString &kind, QVector<ASAttribute> records)
+{
+    DatabaseFunc *db = getDB();
+    QString error;
+    if (kind == "group")
+        return db->saveGroupInfo(records, error);
+    if (kind == "staff")
+        return db->saveStaffInfo(records);
+    if (kind == "shift")
+        return db->saveShiftInfo(records);
+    if (kind == "row")
+        return db->savePermanentSchedule(records);
+    if (kind == "holiday")
+        return db->saveHolidayInfo(records);
+    if (kind == "vacation")
+        return db->saveVacationInfo(records);
+    return kind == "lock" && db->saveLockEmployeeInfo(records);
+}
+
 bool writePlan(const QString &plan)
 {
     QMap<QString, QVector<ASAttribute>> kinds{{"group", planRecords("group", "G H")},
                                               {"shift", planRecords("shift", "S T")}};
     for (const QString &section : plan.split('|', Qt::SkipEmptyParts)) {
-        const QString text = section.trimmed(); const QString kind = text.section(' ', 0, 0);
+        const QString text = section.trimmed();
+        const QString kind = text.section(' ', 0, 0);
         kinds[kind] = planRecords(kind, text.section(' ', 1));
     }
-    DatabaseFunc *db = getDB(); QString error;
-    return db->saveGroupInfo(kinds["group"], error) && db->saveStaffInfo(kinds["staff"])
-           && db->saveShiftInfo(kinds["shift"]) && db->savePermanentSchedule(kinds["row"])
-           && db->saveHolidayInfo(kinds["holiday"]) && db->saveVacationInfo(kinds["vacation"])
-           && db->saveLockEmployeeInfo(kinds["lock"]) && db->deleteSchedule("1=1")
-           && db->saveSchedule(kinds["schedule"]);
+    for (const char *kind : {"group", "staff", "shift", "row", "holiday", "vacation", "lock"})
+        if (!saveRecords(kind, kinds[kind]))
+            return false;
+    return getDB()->deleteSchedule("1=1") && getDB()->saveSchedule(kinds["schedule"]);
 }
 
 QList<QStringList> rows(const QString &sql)
@@ -114,6 +138,14 @@ QList<QStringList> rows(const QString &sql)
     return result;
 }
 
+QString rowsText(const QString &sql, const QString &fieldSep, const QString &rowSep)
+{
+    QStringList lines;
+    for (const QStringList &row : rows(sql))
+        lines << row.join(fieldSep);
+    return lines.join(rowSep);
+}
+
 QString show(const QVector<ASAttribute> &records)
 {
     QStringList out;
@@ -126,7 +158,7 @@ QString show(const QVector<ASAttribute> &records)
 QStringList scheduleTable()
 {
     QStringList lines;
-    for (const QStringList &row : rows("select date,groupname,shiftname,staffs from t_schedule order by 1,2,3"))
+    for (const QStringList &row : rows("select date, groupname, shiftname, staffs from t_schedule order by 1, 2, 3"))
         lines << row.join(' ');
     return lines;
 }
@@ -152,14 +184,28 @@ QVector<QDate> daysFrom(const QDate &first, int count)
 
 static QVector<int> g_draws;
 static int g_drawn = 0;
-void scriptDraws(const QVector<int> &values) { g_draws = values, g_drawn = 0; }
-int scriptedDraw() { return g_draws.value(g_drawn++, 0); }
-int drawsTaken() { return g_drawn; }
+
+void scriptDraws(const QVector<int> &values)
+{
+    g_draws = values;
+    g_drawn = 0;
+}
+
+static int scriptedDraw()
+{
+    return g_draws.value(g_drawn++, 0);
+}
+
+int drawsTaken()
+{
+    return g_drawn;
+}
 
 Boxes::Boxes(QList<QMessageBox::StandardButton> answers, QMessageBox::StandardButton rest)
     : m_answers(answers), m_rest(rest)
 {
-    connect(&m_timer, &QTimer::timeout, this, &Boxes::poll); m_timer.start(20);
+    connect(&m_timer, &QTimer::timeout, this, &Boxes::poll);
+    m_timer.start(20);
 }
 
 void Boxes::poll()
@@ -168,10 +214,12 @@ void Boxes::poll()
         auto *box = qobject_cast<QMessageBox *>(w);
         if (!box || !box->isVisible() || m_seen.contains(box))
             continue;
-        m_seen.append(box); texts << box->text();
+        m_seen.append(box);
+        texts << box->text();
         titles << box->windowTitle();
         defaults << (box->defaultButton() ? box->standardButton(box->defaultButton()) : QMessageBox::NoButton);
-        icons << box->icon(); buttons << box->standardButtons();
+        icons << box->icon();
+        buttons << box->standardButtons();
         QAbstractButton *target = box->button(m_answers.value(texts.size() - 1, m_rest));
         if (!target)
             target = box->defaultButton();
@@ -186,11 +234,12 @@ void answerFileDialog(const QString &file, QStringList *seen, const std::functio
 {
     whenDialogOpens<QFileDialog>([file, seen, after](QFileDialog *dialog) {
         if (seen)
-            *seen = QStringList{dialog->windowTitle(), dialog->nameFilters().join(","), dialog->directory().path()};
+            *seen = {dialog->windowTitle(), dialog->nameFilters().join(","), dialog->directory().path()};
         // The file name is not replaced while its editor has the focus.
         if (QWidget *focus = dialog->focusWidget())
             focus->clearFocus();
-        dialog->selectFile(file); QMetaObject::invokeMethod(dialog, "accept");
+        dialog->selectFile(file);
+        QMetaObject::invokeMethod(dialog, "accept");
         if (dialog->isVisible()) // refused: fail the test rather than hang it
             dialog->reject();
         else if (after)
@@ -202,13 +251,15 @@ RosteraMain *openWindow()
 {
     if (!getDB()->isOpen() && !getDB()->openDB(QString()))
         return nullptr;
-    auto *window = new RosteraMain; window->randomNumber = scriptedDraw;
+    auto *window = new RosteraMain;
+    window->randomNumber = scriptedDraw;
     window->show();
     return QTest::qWaitForWindowExposed(window) ? window : nullptr;
 }
 
 void setView(RosteraMain *window, int personType, const QString &group)
 {
-    window->toolBar->setPersonType(personType); window->refreshGroupCmb();
+    window->toolBar->setPersonType(personType);
+    window->refreshGroupCmb();
     window->ui->cmb_group->setCurrentIndex(group.isEmpty() ? 0 : window->ui->cmb_group->findText(group));
 }

@@ -42,6 +42,8 @@ ASAttribute record(std::initializer_list<std::pair<QString, QString>> values);
 bool writePlan(const QString &plan);
 // The records of a kind as writePlan reads them (for saving such records by other ways).
 QVector<ASAttribute> planRecords(const QString &kind, const QString &items);
+// Saves the records of a kind of writePlan but the schedule, replacing its table, as the Settings dialog does.
+bool saveRecords(const QString &kind, QVector<ASAttribute> records);
 
 // Records as "key=value key=value | key=value ..." in key order.
 QString show(const QVector<ASAttribute> &records);
@@ -50,14 +52,16 @@ QStringList scheduleTable();
 // Rows of a statement on the open file, each value as text; a failing statement gives one row
 // that names it.
 QList<QStringList> rows(const QString &sql);
+// The same rows as text: values joined by fieldSep, rows by rowSep.
+QString rowsText(const QString &sql, const QString &fieldSep = ",", const QString &rowSep = " | ");
 bool writeFile(const QString &path, const QByteArray &content);
 // Sets "Options/<key>" in the configuration file.
 void setOption(const QString &key, const QVariant &value);
 QVector<QDate> daysFrom(const QDate &first, int count);
 
-// A scripted source for RosteraMain::randomNumber; draws beyond the script give 0.
+// A scripted source for RosteraMain::randomNumber (drawn by every window openWindow opens); draws
+// beyond the script give 0.
 void scriptDraws(const QVector<int> &values);
-int scriptedDraw();
 int drawsTaken();
 
 // While it lives, answers each message box in turn with the next of the given buttons, then
@@ -99,7 +103,8 @@ void whenDialogOpens(const std::function<void(T *)> &action)
 
 // Answers the next file dialog with a file, keeps its caption, filters and folder in *seen, then
 // runs after (which may spoil the file).
-void answerFileDialog(const QString &file, QStringList *seen = nullptr, const std::function<void()> &after = {});
+void answerFileDialog(const QString &file, QStringList *seen = nullptr,
+                      const std::function<void()> &after = {});
 
 // The main window over the default database, shown, with scripted chance.
 RosteraMain *openWindow();

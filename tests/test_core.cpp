@@ -11,104 +11,186 @@ class TestCore : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan)); } // the 12-hour marker is not the locale's
-    void attributeRecord() {
+    // The 12-hour marker must not depend on the locale.
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan)); }
+    void attributeRecord()
+    {
         ASAttribute r = record({{"empty", ""}, {"word", "abc"}, {"lead", "010"}, {"hex", "0x1A"}});
-        r.setAttr("neg", -42), r.setAttr("half", 1.5f), r.setAttr("big", 1234567.0f), r.remove("hex");
-        QCOMPARE(r.attr("empty", QString("d")) + "|" + r.attr("none", QString("d")), QString("|d")); // a present key beats the default, even empty or no number
-        QCOMPARE(QList<int>({r.attr("empty", 5), r.attr("word", 5), r.attr("none", 5), r.attr("lead", 5), r.attr("neg", 5)}), QList<int>({0, 0, 5, 10, -42}));
-        QCOMPARE(QList<float>({r.attr("word", 2.5f), r.attr("none", 2.5f), r.attr("half", 2.5f)}), QList<float>({0.0f, 2.5f, 1.5f}));
-        QCOMPARE(show({r}), QString("big=1.23457e+06 empty= half=1.5 lead=010 neg=-42 word=abc")); // and reading added nothing
-        for (const char *text : {"0", "7", "007", "999999", "1000000", "-0", "+5", " 5", "2.5", "1e3", "", "x"}) // whole numbers take a short way to the same float
-            QVERIFY2(std::signbit(record({{"n", text}}).attr("n", 9.0f)) == std::signbit(QString(text).toFloat()) && record({{"n", text}}).attr("n", 9.0f) == QString(text).toFloat(), text);
-        QStringList written, general;
-        for (const float value : {0.0f, -0.0f, 3.0f, 999999.0f, 1e6f, 2.5f, 123456.7f, -4.0f}) // and are written as the general form writes them
-            r.setAttr("f", value), written << r.attr("f", QString()), general << QString("%1").arg(double(value));
-        QCOMPARE(written, general); r.clear();
+        r.setAttr("neg", -42);
+        r.setAttr("half", 1.5f);
+        r.setAttr("big", 1234567.0f);
+        r.remove("hex");
+        // A present key beats the default, even when empty or no number.
+        QCOMPARE(r.attr("empty", QString("d")) + "|" + r.attr("none", QString("d")), QString("|d"));
+        QCOMPARE(QList<int>({r.attr("empty", 5), r.attr("word", 5), r.attr("none", 5), r.attr("lead", 5),
+                             r.attr("neg", 5)}),
+                 QList<int>({0, 0, 5, 10, -42}));
+        QCOMPARE(QList<float>({r.attr("word", 2.5f), r.attr("none", 2.5f), r.attr("half", 2.5f)}),
+                 QList<float>({0.0f, 2.5f, 1.5f}));
+        // and reading added nothing
+        QCOMPARE(show({r}), QString("big=1.23457e+06 empty= half=1.5 lead=010 neg=-42 word=abc"));
+        // Whole numbers take a short way to the same float, and are written as the general form writes them.
+        for (const char *text : {"0", "7", "007", "999999", "1000000", "-0", "+5", " 5", "2.5", "1e3", "", "x"}) {
+            const float read = record({{"n", text}}).attr("n", 9.0f);
+            const float general = QString(text).toFloat();
+            QVERIFY2(std::signbit(read) == std::signbit(general) && read == general, text);
+        }
+        for (const float value : {0.0f, -0.0f, 3.0f, 999999.0f, 1e6f, 2.5f, 123456.7f, -4.0f}) {
+            r.setAttr("f", value);
+            QCOMPARE(r.attr("f", QString()), QString("%1").arg(double(value)));
+        }
+        r.clear();
         const QString rule = record({{"t", "0"}, {"stn", "2;2;2;2;2;1;0"}}).getXmlAttrs("dt");
-        QVERIFY2(r.values().isEmpty() && rule.startsWith("<dt ") && rule.endsWith("/>\n") && rule.count('\n') == 1 && rule.contains(" t=\"0\"") && rule.contains(" stn=\"2;2;2;2;2;1;0\""), qPrintable(rule));
+        QVERIFY2(r.values().isEmpty() && rule.startsWith("<dt ") && rule.endsWith("/>\n") && rule.count('\n') == 1
+                     && rule.contains(" t=\"0\"") && rule.contains(" stn=\"2;2;2;2;2;1;0\""),
+                 qPrintable(rule));
         const ASAttribute odd = record({{"title", "Say \"hi\" & <bye> 'now'"}, {"empty", ""}, {"n", "3"}});
         QVERIFY(r.setXmlAttrs(odd.getXmlAttrs("report")) && r == odd);
-        QVERIFY(r.setXmlAttrs(QString("<any title=\"new\" u=\"1\"><child v=\"2\"/></any>")) && r.setXmlAttrs(QString("<dt/>"))); // merges the root's attributes
-        QVERIFY(!r.setXmlAttrs(QString("2;2;2;2;2;1;0")) && !r.setXmlAttrs(QString("<dt a=\"2\"")) && !r.setXmlAttrs(QDomNode())); // a plain staffing list is no XML
+        // Merges the root's attributes; a plain staffing list is no XML.
+        QVERIFY(r.setXmlAttrs(QString("<any title=\"new\" u=\"1\"><child v=\"2\"/></any>"))
+                && r.setXmlAttrs(QString("<dt/>")));
+        QVERIFY(!r.setXmlAttrs(QString("2;2;2;2;2;1;0")) && !r.setXmlAttrs(QString("<dt a=\"2\""))
+                && !r.setXmlAttrs(QDomNode()));
         QCOMPARE(show({r}), QString("empty= n=3 title=new u=1"));
     }
-    void helpers_data() { // each row calls a helper on each of its inputs ("a" or "a/b") and lists the answers
-        QTest::addColumn<QString>("call"); QTest::addColumn<QString>("inputs"); QTest::addColumn<QString>("answers");
+    // Each row calls a helper on each of its inputs ("a" or "a/b") and lists the answers.
+    void helpers_data()
+    {
+        for (const char *column : {"call", "inputs", "answers"})
+            QTest::addColumn<QString>(column);
         QTest::newRow("week days, Error outside 1 to 7") << "getWeekDes" << "0,1,7,8" << "Error,Monday,Sunday,Error";
         QTest::newRow("text positions: any case, first, none") << "getStringPos" << "ABC,X,ab" << "0,2,-1";
-        QTest::newRow("versions: more parts win, else part by part as numbers") << "cmpVersion" << "2.08.03/3.0,2.9/2.08.03,2.08.03/2.08.03,2.08.10/2.08.03,2.08.03/2.08.10,2.10/2.9,2.9/2..8,3.0/2.9,2.a/2.0,2.1/2.a" << "1,0,0,1,0,1,1,1,0,1";
+        QTest::newRow("versions: more parts win, else part by part as numbers")
+            << "cmpVersion"
+            << "2.08.03/3.0,2.9/2.08.03,2.08.03/2.08.03,2.08.10/2.08.03,2.08.03/2.08.10,2.10/2.9,2.9/2..8,3.0/2.9,"
+               "2.a/2.0,2.1/2.a"
+            << "1,0,0,1,0,1,1,1,0,1";
         QTest::newRow("shift by name: first, case-sensitive") << "getShiftByName" << "Night,night" << "1N,0kept";
-        QTest::newRow("shift/group abbreviation, or else the name") << "abbreviations" << "Night,Day,Gone,Kitchen" << "N/Night,Day/Day,Gone/Gone,Kitchen/K";
-        QTest::newRow("times to 12 and 24 hours, marker upper-case") << "str2TimeFormat" << "13:05/12,00:30/12,01:05 PM/24,12:30 AM/24,01:05 pm/24" << "01:05 PM,12:30 AM,13:05,00:30,";
-        QTest::newRow("shift lengths in seconds, over midnight only if the end is earlier") << "calcShiftLength" << "0,1,2,3" << "28800,28800,0,2700";
+        QTest::newRow("shift/group abbreviation, or else the name")
+            << "abbreviations" << "Night,Day,Gone,Kitchen" << "N/Night,Day/Day,Gone/Gone,Kitchen/K";
+        QTest::newRow("times to 12 and 24 hours, marker upper-case")
+            << "str2TimeFormat" << "13:05/12,00:30/12,01:05 PM/24,12:30 AM/24,01:05 pm/24"
+            << "01:05 PM,12:30 AM,13:05,00:30,";
+        QTest::newRow("shift lengths in seconds, over midnight only if the end is earlier")
+            << "calcShiftLength" << "0,1,2,3" << "28800,28800,0,2700";
     }
-    void helpers() {
-        QFETCH(QString, call); QFETCH(QString, inputs); QFETCH(QString, answers);
-        QStringList got;
-        getDB()->shifts = planRecords("shift", "Night/N/22:00/06:00 Day//08:00/16:00 Same/S/08:00/08:00 Night/N2/23:30/00:15");
+    void helpers()
+    {
+        QFETCH(QString, call);
+        QFETCH(QString, inputs);
+        getDB()->shifts =
+            planRecords("shift", "Night/N/22:00/06:00 Day//08:00/16:00 Same/S/08:00/08:00 Night/N2/23:30/00:15");
         getDB()->groups = planRecords("group", "Kitchen/K");
+        calcShiftLength();
+        QStringList got;
         for (const QString &input : inputs.split(',')) {
             const QString a = input.section('/', 0, 0), b = input.section('/', 1);
             ASAttribute shift = record({{"abbreviation", "kept"}});
             const bool found = call == "getShiftByName" && getShiftByName(a, shift);
-            got << (call == "getWeekDes" ? getWeekDes(a.toInt()) : call == "getStringPos" ? QString::number(getStringPos({"abc", "ABC", "x"}, a))
-                    : call == "cmpVersion" ? QString::number(cmpVersion(a, b)) : call == "getShiftByName" ? QString::number(found) + shift.attr("abbreviation", QString())
-                    : call == "abbreviations" ? getShiftAbbre(a) + "/" + getGroupAbbre(a) : call == "str2TimeFormat" ? str2TimeFormat(a, b == "24")
-                    : (calcShiftLength(), getDB()->shifts.value(a.toInt()).attr("hours", QString())));
+            got << (call == "getWeekDes"       ? getWeekDes(a.toInt())
+                    : call == "getStringPos"   ? QString::number(getStringPos({"abc", "ABC", "x"}, a))
+                    : call == "cmpVersion"     ? QString::number(cmpVersion(a, b))
+                    : call == "getShiftByName" ? QString::number(found) + shift.attr("abbreviation", QString())
+                    : call == "abbreviations"  ? getShiftAbbre(a) + "/" + getGroupAbbre(a)
+                    : call == "str2TimeFormat" ? str2TimeFormat(a, b == "24")
+                                               : getDB()->shifts.value(a.toInt()).attr("hours", QString()));
         }
-        QCOMPARE(got.join(','), answers);
+        QTEST(got.join(','), "answers");
     }
-    void ordering_data() { // records as the fixture plans them, with "infotype" and "infosubtype" added
-        QTest::addColumn<QString>("kind"); QTest::addColumn<QString>("types"); QTest::addColumn<QString>("items"); QTest::addColumn<QString>("sorted");
+    // Records as the fixture plans them, with "infotype" and "infosubtype" added.
+    void ordering_data()
+    {
+        for (const char *column : {"kind", "types", "items", "sorted"})
+            QTest::addColumn<QString>(column);
         QTest::newRow("group, case-sensitive") << "group" << "group" << "b a B" << "B a b";
         QTest::newRow("two") << "group" << "group" << "b a" << "a b";
-        QTest::newRow("shift by start") << "shift" << "shift" << "Late/A/22:00 Early/Z/08:00" << "Early/Z/08:00 Late/A/22:00";
-        QTest::newRow("customer by abbreviation") << "shift" << "shift cus" << "Early/Z/08:00 Late/A/22:00" << "Late/A/22:00 Early/Z/08:00";
+        QTest::newRow("shift by start")
+            << "shift" << "shift" << "Late/A/22:00 Early/Z/08:00" << "Early/Z/08:00 Late/A/22:00";
+        QTest::newRow("customer by abbreviation")
+            << "shift" << "shift cus" << "Early/Z/08:00 Late/A/22:00" << "Late/A/22:00 Early/Z/08:00";
         QTest::newRow("staff by group, id as text") << "staff" << "staff" << "1/y 9/x 10/x 0/y" << "10/x 9/x 0/y 1/y";
-        QTest::newRow("rows, unknown shift first") << "row" << "permanentschedule" << "b/Day a/Night a/Gone a/Day" << "a/Gone a/Day a/Night b/Day";
-        QTest::newRow("schedule") << "schedule" << "schedule" << "3/a/Day 2/z/Night 2/z/Day 2/b/Night" << "2/b/Night 2/z/Day 2/z/Night 3/a/Day";
+        QTest::newRow("rows, unknown shift first")
+            << "row" << "permanentschedule" << "b/Day a/Night a/Gone a/Day" << "a/Gone a/Day a/Night b/Day";
+        QTest::newRow("schedule")
+            << "schedule" << "schedule" << "3/a/Day 2/z/Night 2/z/Day 2/b/Night" << "2/b/Night 2/z/Day 2/z/Night 3/a/Day";
     }
-    void ordering() {
-        QFETCH(QString, kind); QFETCH(QString, types); QFETCH(QString, items); QFETCH(QString, sorted);
-        const auto typed = [&](QVector<ASAttribute> list) { for (ASAttribute &r : list) r.setAttr("infotype", types.section(' ', 0, 0)), r.setAttr("infosubtype", types.section(' ', 1)); return list; };
+    void ordering()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, types);
+        QFETCH(QString, items);
+        QFETCH(QString, sorted);
+        const auto typed = [&](QVector<ASAttribute> list) {
+            for (ASAttribute &r : list) {
+                r.setAttr("infotype", types.section(' ', 0, 0));
+                r.setAttr("infosubtype", types.section(' ', 1));
+            }
+            return list;
+        };
         getDB()->shifts = planRecords("shift", "Night/N/22:00 Day/D/08:00");
-        QVector<ASAttribute> records = typed(planRecords(kind, items)); sortRecords(records);
+        QVector<ASAttribute> records = typed(planRecords(kind, items));
+        sortRecords(records);
         QCOMPARE(show(records), show(typed(planRecords(kind, sorted))));
     }
-    void orderingWithEqualKeys() { // the comparator says true for equal keys; the sort must still give an ordered permutation
+    // The comparator says true for equal keys; the sort must still give an ordered permutation.
+    void orderingWithEqualKeys()
+    {
         QRandomGenerator random(7);
         QVector<ASAttribute> cells;
         for (int i = 0; i < 1000; ++i)
-            cells << record({{"infotype", "schedule"}, {"date", QString::number(random.bounded(2))}, {"groupname", QString::number(random.bounded(2))}, {"shiftname", random.bounded(2) ? "Day" : "Gone"}, {"staffs", QString::number(i)}});
-        sortRecords(cells); QStringList tags;
-        for (int i = 0; i < cells.size(); tags << cells[i++].attr("staffs", QString()))
+            cells << record({{"infotype", "schedule"}, {"date", QString::number(random.bounded(2))},
+                             {"groupname", QString::number(random.bounded(2))},
+                             {"shiftname", random.bounded(2) ? "Day" : "Gone"}, {"staffs", QString::number(i)}});
+        sortRecords(cells);
+        QStringList tags;
+        for (int i = 0; i < cells.size(); ++i) {
             QVERIFY2(i == 0 || sortInfo(cells[i - 1], cells[i]), qPrintable(QString::number(i)));
+            tags << cells[i].attr("staffs", QString());
+        }
         QVERIFY(tags.removeDuplicates() == 0 && tags.size() == 1000);
     }
-    void csvExport() {
+    void csvExport()
+    {
         const QString path = TestHome::path() + "/out.csv";
-        QVector<ASAttribute> records = {record({{"name", "Zoë"}, {"starttm", "06:00"}}), record({{"name", "Late, or not"}})}, back = {record({{"name", "kept"}})};
+        QVector<ASAttribute> records = {record({{"name", "Zoë"}, {"starttm", "06:00"}}),
+                                              record({{"name", "Late, or not"}})};
+        QVector<ASAttribute> back = {record({{"name", "kept"}})};
         QStringList fields = {"name", "starttm", "endtm"};
         QFile file(path);
         QVERIFY(infoExport(records, fields, path) && file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), "name,starttm,endtm\r\n" + QString("Zoë").toLocal8Bit() + ",06:00,\r\nLate, or not,,\r\n");
-        QVERIFY(infoImport(back, fields, path) && !infoExport(records, fields, path + "/x") && !infoImport(back, fields, path + ".none"));
-        QCOMPARE(show(back), QString("name=kept | endtm= name=Zoë starttm=06:00 | endtm= name=Late starttm= or not")); // appended; a comma splits
+        QCOMPARE(file.readAll(),
+                 "name,starttm,endtm\r\n" + QString("Zoë").toLocal8Bit() + ",06:00,\r\nLate, or not,,\r\n");
+        QVERIFY(infoImport(back, fields, path) && !infoExport(records, fields, path + "/x")
+                && !infoImport(back, fields, path + ".none"));
+        // appended; a comma splits
+        QCOMPARE(show(back), QString("name=kept | endtm= name=Zoë starttm=06:00 | endtm= name=Late starttm= or not"));
     }
-    void csvImport_data() {
-        QTest::addColumn<QByteArray>("bytes"); QTest::addColumn<QString>("fields"); QTest::addColumn<QString>("records");
-        QTest::newRow("header by name, any case, leftmost") << QByteArray("EXTRA,StartTm,NAME,name\r\nx,08:00,Day,ignored\r\n") << "name,starttm,endtm" << "name=Day starttm=08:00";
+    void csvImport_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("fields");
+        QTest::addColumn<QString>("records");
+        QTest::newRow("header by name, any case, leftmost")
+            << QByteArray("EXTRA,StartTm,NAME,name\r\nx,08:00,Day,ignored\r\n") << "name,starttm,endtm"
+            << "name=Day starttm=08:00";
         const QByteArray irregular = "\r\n\nname,date,days\r\n\r\n,,\r\nNewYear,2012-01-01\r\n\nXmas,2012-12-25,2\n\r\n";
-        QTest::newRow("blank, short and comma-only lines") << irregular << "name,date,days" << "date= days= name= | date=2012-01-01 name=NewYear | date=2012-12-25 days=2 name=Xmas";
+        QTest::newRow("blank, short and comma-only lines")
+            << irregular << "name,date,days"
+            << "date= days= name= | date=2012-01-01 name=NewYear | date=2012-12-25 days=2 name=Xmas";
         QTest::newRow("no field bound") << irregular << "other" << "";
-        QTest::newRow("bytes the locale's encoding can't read") << QByteArray("name,note\r\nM\xfcller,caf\xe9 ok\r\n") << "name,note" << "name=M\uFFFDller note=caf\uFFFD ok";
+        QTest::newRow("bytes the locale's encoding can't read")
+            << QByteArray("name,note\r\nM\xfcller,caf\xe9 ok\r\n") << "name,note"
+            << "name=M\uFFFDller note=caf\uFFFD ok";
     }
-    void csvImport() {
-        QFETCH(QByteArray, bytes); QFETCH(QString, fields); QFETCH(QString, records);
-        QVector<ASAttribute> read; QStringList wanted = fields.split(',');
-        QVERIFY(writeFile(TestHome::path() + "/in.csv", bytes) && infoImport(read, wanted, TestHome::path() + "/in.csv"));
-        QCOMPARE(show(read), records);
+    void csvImport()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, fields);
+        QVector<ASAttribute> read;
+        QStringList wanted = fields.split(',');
+        const QString path = TestHome::path() + "/in.csv";
+        QVERIFY(writeFile(path, bytes) && infoImport(read, wanted, path));
+        QTEST(show(read), "records");
     }
 };
 

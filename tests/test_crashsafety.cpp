@@ -12,51 +12,52 @@
 #include "persistence/databasefunc.h"
 
 static const QDate kMonday(2026, 3, 2);
-static const QStringList kKinds = {"group", "staff", "shift", "row", "holiday", "vacation", "lock", "generation", "copy"};
+static const QStringList kKinds = {"group",    "staff", "shift",      "row", "holiday",
+                                   "vacation", "lock",  "generation", "copy"};
 
 // count records of a kind, keys from the prefix on ("A0", "A1", ... or dates from 2026-01-01 on).
 static QVector<ASAttribute> records(const QString &kind, const QString &prefix, int count)
 {
     QStringList items;
     for (int i = 0; i < count; ++i) {
-        const QString key = kind == "holiday" ? QDate(2026, 1, 1).addDays(i).toString(Qt::ISODate) : prefix + QString::number(i);
+        const QString key =
+            kind == "holiday" ? QDate(2026, 1, 1).addDays(i).toString(Qt::ISODate) : prefix + QString::number(i);
         items << (kind == "vacation" || kind == "lock" ? key + "/2026-03-02" : key);
     }
     return planRecords(kind, items.join(' '));
 }
 
-static bool save(const QString &kind, QVector<ASAttribute> list)
-{
-    DatabaseFunc *db = getDB(); QString error;
-    return kind == "group" ? db->saveGroupInfo(list, error) : kind == "staff" ? db->saveStaffInfo(list) : kind == "shift" ? db->saveShiftInfo(list)
-         : kind == "row" ? db->savePermanentSchedule(list) : kind == "holiday" ? db->saveHolidayInfo(list)
-         : kind == "vacation" ? db->saveVacationInfo(list) : db->saveLockEmployeeInfo(list);
-}
-
-static const QString kPlan = "staff A/G B/G C/G D/G E/H F/H | row G/S/2;2;2;2;2;2;2 G/T/1;1;1;1;1;1;1 H/S/1;1;1;1;1;1;1";
+static const QString kPlan =
+    "staff A/G B/G C/G D/G E/H F/H | row G/S/2;2;2;2;2;2;2 G/T/1;1;1;1;1;1;1 H/S/1;1;1;1;1;1;1";
 
 // The child's endless saves, alternating 200 records of "A" and 300 of "B" (a generation or copy of 31 days).
 static int child(const QString &kind, const QString &file)
 {
     if (!getDB()->openDB(file))
         return 1;
-    RosteraMain window; window.cycleDates = daysFrom(kMonday, 31);
+    RosteraMain window;
+    window.cycleDates = daysFrom(kMonday, 31);
     Boxes boxes({}, QMessageBox::Yes); // the copy's questions
-    fputs("saving\n", stdout), fflush(stdout); // the parent's clock starts here, whatever the start-up took
+    // The parent's clock starts here, whatever the start-up took.
+    fputs("saving\n", stdout);
+    fflush(stdout);
     for (int round = 0;; ++round) {
         if (kind == "generation")
             window.auto_schedule(window.cycleDates, true);
         else if (kind == "copy")
             window.copySchedule(kMonday, kMonday.addDays(31), 31, false);
         else
-            save(kind, round % 2 ? records(kind, "B", 300) : records(kind, "A", 200));
+            saveRecords(kind, round % 2 ? records(kind, "B", 300) : records(kind, "A", 200));
     }
 }
 
 static QString tableOf(const QString &kind)
 {
-    return QMap<QString, QString>{{"group", "t_groupinfo"}, {"staff", "t_staffinfo"}, {"shift", "t_shiftinfo"}, {"row", "t_permanentschedule"},
-                                  {"holiday", "t_holidayinfo"}, {"vacation", "t_vacationinfo"}, {"lock", "t_lock_employee"}}.value(kind, "t_schedule");
+    static const QMap<QString, QString> tables{{"group", "t_groupinfo"},     {"staff", "t_staffinfo"},
+                                               {"shift", "t_shiftinfo"},     {"row", "t_permanentschedule"},
+                                               {"holiday", "t_holidayinfo"}, {"vacation", "t_vacationinfo"},
+                                               {"lock", "t_lock_employee"}};
+    return tables.value(kind, "t_schedule");
 }
 
 class TestCrashSafety : public QObject
@@ -66,33 +67,43 @@ private slots:
     void killedSaves_data()
     {
         QTest::addColumn<QString>("kind");
-        for (const QString &kind : kKinds) QTest::newRow(qPrintable(kind)) << kind;
+        for (const QString &kind : kKinds)
+            QTest::newRow(qPrintable(kind)) << kind;
     }
     void killedSaves()
     {
-        QFETCH(QString, kind); const QString file = TestHome::path() + "/" + kind + ".db";
-        QVERIFY(getDB()->openDB(file) && writePlan(kPlan)); RosteraMain window;
+        QFETCH(QString, kind);
+        const QString file = TestHome::path() + "/" + kind + ".db";
+        QVERIFY(getDB()->openDB(file) && writePlan(kPlan));
+        RosteraMain window;
         window.cycleDates = daysFrom(kMonday, 31);
-        QVERIFY(kind == "generation" || kind == "copy" ? window.auto_schedule(window.cycleDates, true) : save(kind, records(kind, "A", 200)));
+        const bool schedule = kind == "generation" || kind == "copy";
+        QVERIFY(schedule ? window.auto_schedule(window.cycleDates, true) : saveRecords(kind, records(kind, "A", 200)));
         // Whole contents: 200 or 300 records of the kind; of the schedule, a full span of generated cells, or none.
         const int span = rows("select count(*) from t_schedule").value(0).value(0).toInt();
-        const QStringList whole = kind == "generation" ? QStringList{"0", QString::number(span)} : kind == "copy" ? QStringList{QString::number(span), QString::number(2 * span)} : QStringList{"200", "300"};
-        getDB()->closeDB(); QStringList seen;
+        const QStringList whole = kind == "generation" ? QStringList{"0", QString::number(span)}
+                                  : kind == "copy"     ? QStringList{QString::number(span), QString::number(2 * span)}
+                                                       : QStringList{"200", "300"};
+        getDB()->closeDB();
+        QStringList seen;
         for (int kill = 0; kill < 25; ++kill) {
             QProcess process;
             process.start(QCoreApplication::applicationFilePath(), {"child", kind, file});
             QVERIFY(process.waitForStarted() && process.waitForReadyRead(20000));
             QThread::msleep(QRandomGenerator::global()->bounded(1, 150));
-            process.kill(); QVERIFY(process.waitForFinished());
+            process.kill();
+            QVERIFY(process.waitForFinished());
             QVERIFY(getDB()->openDB(file));
             QCOMPARE(rows("PRAGMA integrity_check"), QList<QStringList>{{"ok"}});
             const QString count = rows("select count(*) from " + tableOf(kind)).value(0).value(0);
             QVERIFY2(whole.contains(count), qPrintable(kind + " holds " + count));
-            seen << count; getDB()->closeDB();
+            seen << count;
+            getDB()->closeDB();
         }
         // The kills met both contents, so they fell inside the saves' runs and not before them. (A generation or copy
         // is rarely caught between its delete and its save.)
-        QVERIFY2(kind == "generation" || (seen.removeDuplicates() < 24 && seen.size() == 2), qPrintable(seen.join(' ')));
+        QVERIFY2(kind == "generation" || (seen.removeDuplicates() < 24 && seen.size() == 2),
+                 qPrintable(seen.join(' ')));
     }
 };
 
@@ -103,7 +114,8 @@ int main(int argc, char **argv)
         QApplication app(argc, argv);
         return child(argv[2], argv[3]);
     }
-    TestHome home; QApplication app(argc, argv);
+    TestHome home;
+    QApplication app(argc, argv);
     TestCrashSafety tc;
     return QTest::qExec(&tc, argc, argv);
 }

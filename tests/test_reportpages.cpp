@@ -20,17 +20,24 @@ static QList<QStringList> runReport(int kind, const QString &options)
     QScopedPointer<RosteraMain> window(option.contains("lock") ? openWindow() : nullptr);
     if (window)
         window->employeeLockSchedule = true;
-    Reports r; r.ui->listWidget->setCurrentRow(kind);
-    r.ui->cmb_group->setCurrentText("G"), r.ui->cmb_person->setCurrentText("A");
+    Reports r;
+    r.ui->listWidget->setCurrentRow(kind);
+    r.ui->cmb_group->setCurrentText("G");
+    r.ui->cmb_person->setCurrentText("A");
     r.ui->date_from->setDate(QDate::fromString(option.value("from", "2026-03-02"), Qt::ISODate));
     r.ui->date_to->setDate(QDate::fromString(option.value("to", "2026-03-08"), Qt::ISODate));
-    r.use24h = option.contains("24h"); r.workWeek = option.value("week", "1,2,3,4,5,6,7").split(',');
+    r.use24h = option.contains("24h");
+    r.workWeek = option.value("week", "1,2,3,4,5,6,7").split(',');
     r.reportSettings[kind] = record({{"title", option.value("title")}, {"printDetail", option.value("detail", "0")}});
-    QTemporaryDir dir; QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat); printer.setOutputFileName(dir.filePath("report.pdf"));
-    r.printPreview(&printer); QProcess pdftotext;
+    QTemporaryDir dir;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(dir.filePath("report.pdf"));
+    r.printPreview(&printer);
+    QProcess pdftotext;
     pdftotext.start("pdftotext", {"-layout", printer.outputFileName(), "-"});
-    pdftotext.waitForFinished(); QList<QStringList> pages;
+    pdftotext.waitForFinished();
+    QList<QStringList> pages;
     const QString out = QString::fromUtf8(pdftotext.readAllStandardOutput()).replace(QRegularExpression(" +"), " ");
     for (const QString &page : out.split('\f', Qt::SkipEmptyParts))
         pages << page.trimmed().split(QRegularExpression(" *\n[ \n]*"));
@@ -82,13 +89,16 @@ private slots:
         row("calendar without standing rows", 5, "", {"!9 23 24 25 26 27 28 1", "!1"}, noRows); // the header alone
         row("calendar of customers", 5, "lock", {"9 23 24 25 26 27 28 1", "S A", "1"}, noRows);
         QStringList staff, shifts;
-        for (int i = 0; i < 150; ++i)
-            staff << QString("E%1").arg(i), shifts << QString("S%1").arg(i);
+        for (int i = 0; i < 150; ++i) {
+            staff << QString("E%1").arg(i);
+            shifts << QString("S%1").arg(i);
+        }
         const QString many = "staff " + staff.join("/G ") + "/G | schedule 2026-03-02/G/S/" + staff.join(';');
         QString tall = "shift " + shifts.join(' ') + " | staff A/G B/G C/G | schedule";
         for (const QString &shift : shifts)
             tall += " 2026-03-02/G/" + shift + "/A;B;C";
-        staff.replaceInStrings("E", "=E"), shifts.replaceInStrings("S", "=S");
+        staff.replaceInStrings("E", "=E");
+        shifts.replaceInStrings("S", "=S");
         row("weekly, continued", 0, "", staff, many, 0);
         row("rows taller than a page", 0, "", {"=A", "=B", "=C"}, tall, 3);
         row("timesheet, one record split", 8, "", staff, many, 0);
@@ -98,13 +108,21 @@ private slots:
     }
     void pages()
     {
-        QFETCH(int, kind); QFETCH(QString, options); QFETCH(QStringList, lines); QFETCH(QString, plan); QFETCH(int, pages);
-        QVERIFY(writePlan(plan)); const QList<QStringList> text = runReport(kind, options);
-        QVERIFY(pages ? text.size() == pages : text.size() > 1); QStringList all;
+        QFETCH(int, kind);
+        QFETCH(QString, options);
+        QFETCH(QStringList, lines);
+        QFETCH(QString, plan);
+        QFETCH(int, pages);
+        QVERIFY(writePlan(plan));
+        const QList<QStringList> text = runReport(kind, options);
+        QVERIFY(pages ? text.size() == pages : text.size() > 1);
+        QStringList all;
         // Each page of a continued report has a body and its number (maybe beside a row run over the footer).
-        for (int p = 0; p < text.size(); all += text[p++])
+        for (int p = 0; p < text.size(); ++p) {
             QVERIFY(text.size() == 1
                     || (text[p].size() > 3 && text[p].join(' ').split(' ').contains(QString::number(p + 1))));
+            all += text[p];
+        }
         const QStringList words = all.mid(2).join(' ').split(' ');
         for (const QString &line : lines)
             QVERIFY2(line.startsWith('=') ? words.count(line.mid(1)) == 1

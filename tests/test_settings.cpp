@@ -20,7 +20,8 @@
 
 static QString storedOptions()
 {
-    QSettings file(getAppDataPath(0), QSettings::IniFormat); file.beginGroup("Options");
+    QSettings file(getAppDataPath(0), QSettings::IniFormat);
+    file.beginGroup("Options");
     QStringList values;
     for (const QString &key : file.childKeys())
         values << key + "=" + file.value(key).toString();
@@ -29,10 +30,7 @@ static QString storedOptions()
 // A table's rows in stored order, fields joined by "/".
 static QString table(const QString &name)
 {
-    QStringList lines;
-    for (const QStringList &row : rows("select * from " + name))
-        lines << row.join('/');
-    return lines.join(' ');
+    return rowsText("select * from " + name, "/", " ");
 }
 // Item texts, each followed by "+" when ticked.
 static QString items(QListWidget *list)
@@ -46,9 +44,11 @@ static QString items(QListWidget *list)
 static void answerEditor(QString *seen, ASAttribute input)
 {
     whenDialogOpens<RecordEditor>([seen, input](RecordEditor *editor) mutable {
-        ASAttribute shown, empty; editor->getData(shown);
+        ASAttribute shown, empty;
+        editor->getData(shown);
         *seen = show({shown}).replace(QDate::currentDate().toString("yyyy-MM-dd"), "today");
-        editor->setData(empty); QTest::keyClick(editor, Qt::Key_Return);
+        editor->setData(empty);
+        QTest::keyClick(editor, Qt::Key_Return);
         editor->setData(input);
         QTest::keyClick(editor, input.values().isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         if (editor->isVisible())
@@ -76,26 +76,34 @@ private slots:
         QTest::addColumn<int>("command"); // of the Settings menu; 6 is the tool strip's button
         QTest::addColumn<QString>("stored"); // "key=value;..." of the group Options
         QTest::addColumn<QString>("result"); // tab, week start's list enabled, grid's first date and length | written
-        const QString defaults = " on 03-02 7 | cycle days=7 employee lock schedule=false show from week=0 use 24h=false "
-                                 "work week=1,2,3,4,5,6,7";
+        const QString defaults = " on 03-02 7 | cycle days=7 employee lock schedule=false show from week=0 "
+                                 "use 24h=false work week=1,2,3,4,5,6,7";
         for (int command : {0, 1, 2, 3, 6})
-            QTest::addRow("nothing stored, command %d", command) << command << "" << QString::number(command % 6) + defaults;
+            QTest::addRow("nothing stored, command %d", command) << command << ""
+                << QString::number(command % 6) + defaults;
         QTest::newRow("past Sunday wraps around") << 4 << "show from week=9;cycle days=3;use 24h=true;work week=2,4"
             << "4 on 03-05 5 | cycle days=5 employee lock schedule=false show from week=2 use 24h=true work week=2,4";
-        QTest::newRow("from the picked date") << 5 << "show from week=-1;employee lock schedule=true" << "5 off 03-04 7 | "
+        QTest::newRow("from the picked date") << 5 << "show from week=-1;employee lock schedule=true"
+            << "5 off 03-04 7 | "
             "cycle days=7 employee lock schedule=true show from week=-1 use 24h=false work week=1,2,3,4,5,6,7";
     }
     void options()
     {
-        QFETCH(int, command); QFETCH(QString, stored); QFile::remove(getAppDataPath(0));
+        QFETCH(int, command);
+        QFETCH(QString, stored);
+        QFile::remove(getAppDataPath(0));
         for (const QString &pair : stored.split(';', Qt::SkipEmptyParts))
             setOption(pair.section('=', 0, 0), pair.section('=', 1));
         QString shown;
         whenDialogOpens<Settings>([&shown](Settings *dialog) {
-            shown = QString("%1 %2").arg(dialog->ui->tabWidget->currentIndex()).arg(dialog->ui->cmb_showFrom->isEnabled() ? "on" : "off");
+            shown = QString::number(dialog->ui->tabWidget->currentIndex())
+                    + (dialog->ui->cmb_showFrom->isEnabled() ? " on" : " off");
             dialog->reject();
         });
-        command < 6 ? window->ui->menuSettings->actions().at(command)->trigger() : window->toolBar->ui->btn_settings->click();
+        if (command < 6)
+            window->ui->menuSettings->actions().at(command)->trigger();
+        else
+            window->toolBar->ui->btn_settings->click();
         QTEST(QString("%1 %2 %3 | %4").arg(shown, window->cycleDates.value(0).toString("MM-dd"))
                   .arg(window->cycleDates.size()).arg(storedOptions()), "result");
     }
@@ -104,33 +112,42 @@ private slots:
     // work-week picker refuses no day, ignores numbers beyond 1 to 7, and is taken when accepted.
     void optionControls()
     {
-        QFile::remove(getAppDataPath(0)); setView(window, 0);
-        window->toolBar->setViewType(1); window->settingsChange();
-        QStringList seen = window->rowLabels; Boxes boxes;
+        QFile::remove(getAppDataPath(0));
+        setView(window, 0);
+        window->toolBar->setViewType(1);
+        window->settingsChange();
+        QStringList seen = window->rowLabels;
+        Boxes boxes;
         whenDialogOpens<Settings>([&seen](Settings *dialog) {
             Ui_Settings *ui = dialog->ui;
             ui->ck_showFrom->click(); // on by default: the click disables the week start's list
             seen << (ui->cmb_showFrom->isEnabled() ? "on" : "off");
-            for (int i = 0; i < 3; ++i, ui->ck_employeeLockSchedule->click())
+            for (int i = 0; i < 3; ++i) {
                 seen << ui->tabWidget->tabText(2) + "/" + ui->shiftTable->horizontalHeaderItem(1)->text() + "/"
                             + ui->permanentScheduleTable->horizontalHeaderItem(1)->text() + "/"
                             + (ui->permanentScheduleTable->isColumnHidden(2) ? "hidden" : "shown");
+                ui->ck_employeeLockSchedule->click();
+            }
             for (int column = 0; column < 3; ++column) // widths a translation may change (the last stretches)
                 seen << QString::number(ui->permanentScheduleTable->columnWidth(column));
-            ui->btn_shiftAdd->click(); ui->ck_use24hour->click();
+            ui->btn_shiftAdd->click();
+            ui->ck_use24hour->click();
             seen << QString::number(ui->shiftTable->rowCount()) + " " + ui->shiftTable->item(0, 2)->text();
             whenDialogOpens<WorkWeekSelect>([](WorkWeekSelect *picker) {
                 for (QCheckBox *day : picker->findChildren<QCheckBox *>())
                     day->setChecked(false);
-                QTest::keyClick(picker, Qt::Key_Return); picker->setSel("3,,9,x,1,7,0");
+                QTest::keyClick(picker, Qt::Key_Return);
+                picker->setSel("3,,9,x,1,7,0");
                 QTest::keyClick(picker, Qt::Key_Return);
             });
-            ui->btn_workWeek->click(); dialog->reject();
+            ui->btn_workWeek->click();
+            dialog->reject();
         });
         window->ui->actionShift_Settings->trigger();
         QCOMPARE(seen + window->rowLabels + boxes.texts,
-                 QStringList({"G--S", "H--T", "off", "Shifts/Abbreviation/Shift/hidden", "Customers/Cust ID/Customer/shown",
-                              "Shifts/Abbreviation/Shift/hidden", "90", "90", "150", "2 08:00", "S", "T",
+                 QStringList({"G--S", "H--T", "off", "Shifts/Abbreviation/Shift/hidden",
+                              "Customers/Cust ID/Customer/shown", "Shifts/Abbreviation/Shift/hidden", "90", "90", "150",
+                              "2 08:00", "S", "T",
                               "Please select one day at least."}));
         QVERIFY(storedOptions().endsWith("work week=1,3,7") && !window->ui->statusBar->isVisible()
                 && boxes.icons == QList<QMessageBox::Icon>({QMessageBox::Information}));
@@ -142,37 +159,49 @@ private slots:
     {
         // Records added as a plan writes them (the last a duplicate key), the first item edited to, the file imported.
         QTest::addColumn<QStringList>("input");
-        // The editor for a new record and on Edit | the table after the refused Save, after Remove and Save, after Edit,
-        // a tick and Save | the items | the boxes | the exported header | the items and the table after import and Save.
+        // The editor for a new record and on Edit | the table after the refused Save, after Remove and Save, after
+        // Edit, a tick and Save | the items | the boxes | the exported header | the items and the table after import
+        // and Save.
         QTest::addColumn<QString>("result");
-        QTest::newRow("holiday") << QStringList{"2026-04-05/2/0/1/Easter 2026-12-25/1/1/1/h2026-12-25", "2027-01-01/3/1/0/NewYear",
+        QTest::newRow("holiday")
+            << QStringList{"2026-04-05/2/0/1/Easter 2026-12-25/1/1/1/h2026-12-25", "2027-01-01/3/1/0/NewYear",
                                                 "name,date,repeat,valid\r\nX,2026-05-01,1,yes\r\nY,2026-06-01,0,1\r\n"}
-            << "date=today days=1 infotype=holiday name= repeat=1 valid=1 date=2026-12-25 days=1 infotype=holiday name=h2026-12-25 "
-               "repeat=1 valid=1 | h2026-12-25/2026-12-25/1/1/1 h2026-12-25/2026-12-25/1/1/1 Easter/2026-04-05/2/1/0 NewYear/"
-               "2027-01-01/3/0/1 Easter/2026-04-05/2/0/0 | 01-01 NewYear,2026-04-05 Easter | Please input a name. Save failed! | "
+            << "date=today days=1 infotype=holiday name= repeat=1 valid=1 date=2026-12-25 days=1 infotype=holiday "
+               "name=h2026-12-25 repeat=1 valid=1 | h2026-12-25/2026-12-25/1/1/1 h2026-12-25/2026-12-25/1/1/1 "
+               "Easter/2026-04-05/2/1/0 NewYear/2027-01-01/3/0/1 Easter/2026-04-05/2/0/0 | 01-01 NewYear,2026-04-05 Easter "
+               "| Please input a name. Save failed! | "
                "name,date,days,repeat,valid | 05-01 X,2026-06-01 Y+ X/2026-05-01/1/0/1 Y/2026-06-01/1/1/0";
         // The same employees in another order are another key.
         QTest::newRow("vacation") << QStringList{"A;B/2026-03-05 B;A/2026-03-05 A;B/2026-03-05", "B/2026-03-09/2/0",
                                                  "date,staffids\r\n2026-05-01,A;B\r\n"}
-            << "date=today days=1 infotype=vacation note= staffids= valid=1 date=2026-03-02 days=3 infotype=vacation note= "
-               "staffids=A valid=1 | A/2026-03-02/3//1 A/2026-03-02/3//1 A;B/2026-03-05/1//1 B;A/2026-03-05/1//1 B/2026-03-09/2//0 "
-               "A;B/2026-03-05/1//0 B;A/2026-03-05/1//1 | 2026-03-09 B,2026-03-05 A;B,2026-03-05 B;A+ | Please select a employee. "
+            << "date=today days=1 infotype=vacation note= staffids= valid=1 date=2026-03-02 days=3 infotype=vacation "
+               "note= staffids=A valid=1 | A/2026-03-02/3//1 A/2026-03-02/3//1 A;B/2026-03-05/1//1 B;A/2026-03-05/1//1 "
+               "B/2026-03-09/2//0 A;B/2026-03-05/1//0 B;A/2026-03-05/1//1 | 2026-03-09 B,2026-03-05 A;B,2026-03-05 B;A+ "
+               "| Please select a employee. "
                "Save failed! | staffids,date,days,valid,note | 2026-05-01 A;B+ A;B/2026-05-01/1//1";
-        QTest::newRow("lock") << QStringList{"A/2026-03-04 B/2026-03-04", "A/2026-03-06/0", "note,staffids,date,valid\nn,A,2026-05-01,0\n"}
-            << "date=today infotype=lock note= staffids= valid=1 date=2026-03-04 infotype=lock note= staffids=B valid=1 | "
-               "B/2026-03-04///1 B/2026-03-04///1 A/2026-03-04///1 A/2026-03-06///0 A/2026-03-04///0 | 2026-03-06 A,2026-03-04 A | "
+        QTest::newRow("lock")
+            << QStringList{"A/2026-03-04 B/2026-03-04", "A/2026-03-06/0", "note,staffids,date,valid\nn,A,2026-05-01,0\n"}
+            << "date=today infotype=lock note= staffids= valid=1 date=2026-03-04 infotype=lock note= staffids=B "
+               "valid=1 | B/2026-03-04///1 B/2026-03-04///1 A/2026-03-04///1 A/2026-03-06///0 A/2026-03-04///0 | "
+               "2026-03-06 A,2026-03-04 A | "
                "Please select a employee. Save failed! | staffids,date,valid,note | 2026-05-01 A A/2026-05-01//n/0";
     }
     void lists()
     {
-        const QString kind = QTest::currentDataTag(); QFETCH(QStringList, input);
+        const QString kind = QTest::currentDataTag();
+        QFETCH(QStringList, input);
         QVERIFY(writePlan("staff A/G B/G | holiday 2026-12-25/1/1 | vacation A/2026-03-02/3 | lock B/2026-03-04"));
-        const QString name = kind == "holiday" ? "t_holidayinfo" : kind == "vacation" ? "t_vacationinfo" : "t_lock_employee";
+        const int k = QStringList{"holiday", "vacation", "lock"}.indexOf(kind);
+        const QString name = QStringList{"t_holidayinfo", "t_vacationinfo", "t_lock_employee"}.value(k);
         Settings dialog;
-        auto *list = dialog.findChild<QListWidget *>(kind == "holiday" ? "lst_holidays" : kind == "vacation" ? "lst_vacations" : "lst_lock");
-        const auto press = [&](const QString &button) { dialog.findChild<QPushButton *>("btn_" + button + "_" + kind)->click(); };
-        Boxes boxes; list->setCurrentRow(-1);
-        press("edit"); QString added, edited;
+        auto *list = dialog.findChild<QListWidget *>(QStringList{"lst_holidays", "lst_vacations", "lst_lock"}.value(k));
+        const auto press = [&](const QString &button) {
+            dialog.findChild<QPushButton *>("btn_" + button + "_" + kind)->click();
+        };
+        Boxes boxes;
+        list->setCurrentRow(-1);
+        press("edit");
+        QString added, edited;
         QVector<ASAttribute> records = planRecords(kind, input[0]);
         for (const ASAttribute &record : records << ASAttribute()) { // the last one cancelled
             answerEditor(&added, record);
@@ -180,30 +209,43 @@ private slots:
         }
         press("save");
         QStringList result{table(name)};
-        list->setCurrentRow(list->count() - 1); press("remove");
-        press("save"); result << table(name);
-        answerEditor(&edited, planRecords(kind, input[1]).value(0)); list->setCurrentRow(0);
-        emit list->itemDoubleClicked(list->item(0)); list->item(1)->setCheckState(Qt::Unchecked);
-        QCOMPARE(table(name), result.last()); press("save");
+        list->setCurrentRow(list->count() - 1);
+        press("remove");
+        press("save");
+        result << table(name);
+        answerEditor(&edited, planRecords(kind, input[1]).value(0));
+        list->setCurrentRow(0);
+        emit list->itemDoubleClicked(list->item(0));
+        list->item(1)->setCheckState(Qt::Unchecked);
+        QCOMPARE(table(name), result.last());
+        press("save");
         boxes.texts.removeDuplicates();
-        result = QStringList{added, edited, "|"} + result << table(name) << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
+        result = QStringList{added, edited, "|"} + result;
+        result << table(name) << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
         QVERIFY(boxes.titles.join("").isEmpty() && boxes.icons.count(QMessageBox::Warning) == boxes.icons.size());
-        const QString path = TestHome::path() + "/" + kind + ".csv"; answerFileDialog(path);
-        press("export"); QFile exported(path);
+        const QString path = TestHome::path() + "/" + kind + ".csv";
+        answerFileDialog(path);
+        press("export");
+        QFile exported(path);
         result << (exported.open(QIODevice::ReadOnly) ? QString(exported.readLine()).trimmed() : "no file") << "|";
-        QVERIFY(writeFile(path, input[2].toUtf8())); answerFileDialog(path);
-        press("import"); press("save");
+        QVERIFY(writeFile(path, input[2].toUtf8()));
+        answerFileDialog(path);
+        press("import");
+        press("save");
         QTEST((result << items(list) << table(name)).join(' '), "result");
     }
     // The picker drops down under its button and is loaded once; ticks add and drop names, a choice replaces.
     void picker()
     {
-        QVERIFY(writePlan("staff A/G B/G")); VacationSettings vacation;
+        QVERIFY(writePlan("staff A/G B/G"));
+        VacationSettings vacation;
         LockEmployee lock;
         QStringList seen; // per opening: the items and the current row, then the field after each click
         for (RecordEditor *editor : std::initializer_list<RecordEditor *>{&vacation, &lock}) {
-            editor->show(); auto *button = editor->findChild<QPushButton *>("btn_selStaff");
-            auto *field = editor->findChild<QLineEdit *>("ed_staffids"); field->setText("B");
+            editor->show();
+            auto *button = editor->findChild<QPushButton *>("btn_selStaff");
+            auto *field = editor->findChild<QLineEdit *>("ed_staffids");
+            field->setText("B");
             for (int opening : {1, 2}) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 const QPoint corner = button->mapToGlobal(QPoint(0, button->height())); // give or take a frame
@@ -211,7 +253,10 @@ private slots:
                 auto *names = editor->picker->findChild<QListWidget *>();
                 seen << QString("%1:%2/%3").arg(opening).arg(items(names)).arg(names->currentRow());
                 for (QListWidgetItem *item : {names->item(0), names->item(1)}) {
-                    editor == &lock ? names->setCurrentItem(item) : item->setCheckState(Qt::CheckState(2 - item->checkState()));
+                    if (editor == &lock)
+                        names->setCurrentItem(item);
+                    else
+                        item->setCheckState(Qt::CheckState(2 - item->checkState()));
                     seen << field->text();
                 }
                 editor->picker->close();

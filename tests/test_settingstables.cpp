@@ -16,7 +16,7 @@ static const QStringList kKinds{"group", "staff", "shift", "permanentSchedule"};
 static const QStringList kTables{"t_groupinfo", "t_staffinfo", "t_shiftinfo", "t_permanentschedule", "t_holidayinfo",
                                  "t_vacationinfo", "t_lock_employee", "t_schedule"};
 
-// Rows joined by "|", their values by ",": of a table widget, or of a table of the file.
+// Rows joined by "|", their values by ",": of a table widget, or (stored()) of a table of the file.
 static QString cells(const QTableWidget *table)
 {
     QStringList lines;
@@ -30,10 +30,7 @@ static QString cells(const QTableWidget *table)
 }
 static QString stored(const QString &table)
 {
-    QStringList lines;
-    for (const QStringList &row : rows("select * from " + table + " order by rowid"))
-        lines << row.join(',');
-    return lines.join('|');
+    return rowsText("select * from " + table + " order by rowid", ",", "|");
 }
 
 class TestSettingsTables : public QObject
@@ -41,7 +38,10 @@ class TestSettingsTables : public QObject
     Q_OBJECT
     Settings *dialog = nullptr;
     QTableWidget *table(int tab) { return dialog->findChild<QTableWidget *>(kKinds.at(tab) + "Table"); }
-    void click(int tab, const QString &button) { dialog->findChild<QAbstractButton *>("btn_" + kKinds[tab] + button)->click(); }
+    void click(int tab, const QString &button)
+    {
+        dialog->findChild<QAbstractButton *>("btn_" + kKinds[tab] + button)->click();
+    }
     void addRow(int tab, const QString &texts)
     {
         click(tab, "Add");
@@ -55,18 +55,22 @@ class TestSettingsTables : public QObject
         QString loaded;
         if (tab == 3 && column == 3)
             whenDialogOpens<WorkDateAssign>([&loaded, value](WorkDateAssign *editor) {
-                loaded = " " + editor->getStuffNum(); editor->staffNumBoxes[0]->setValue(value.toInt());
+                loaded = " " + editor->getStuffNum();
+                editor->staffNumBoxes[0]->setValue(value.toInt());
                 value.isEmpty() ? editor->reject() : editor->accept();
             });
-        const QModelIndex index = table(tab)->model()->index(row, column); table(tab)->edit(index);
+        const QModelIndex index = table(tab)->model()->index(row, column);
+        table(tab)->edit(index);
         QWidget *editor = table(tab)->indexWidget(index);
         if (!editor)
             return "no editor" + loaded;
-        auto *box = qobject_cast<QComboBox *>(editor); QStringList items;
+        auto *box = qobject_cast<QComboBox *>(editor);
+        QStringList items;
         for (int i = 0; box && i < box->count(); ++i)
             items << box->itemText(i);
         const QMetaProperty property = editor->metaObject()->userProperty();
-        const QString old = property.read(editor).toString().left(5); property.write(editor, value);
+        const QString old = property.read(editor).toString().left(5);
+        property.write(editor, value);
         QTest::keyClick(editor, Qt::Key_Return);
         QCoreApplication::processEvents(); // the commit is queued
         return box ? items.join(',') : old;
@@ -90,21 +94,26 @@ private slots:
         // A new row repeating a key, the message on Save and the row as it stays; then the row as
         // it is changed to, the database table after Save, the header of its file, an option on.
         QTest::addColumn<QStringList>("f");
-        QTest::newRow("groups") << 0 << QStringList{"G", "Save failed!\nUNIQUE constraint failed: t_groupinfo.name Unable to "
+        QTest::newRow("groups") << 0
+            << QStringList{"G", "Save failed!\nUNIQUE constraint failed: t_groupinfo.name Unable to "
             "fetch row", "G,,", "A/a/n", "A,a,n|G,G,|H,H,", "name,abbreviation,note"};
         QTest::newRow("employees, <None> stored empty") << 1 << QStringList{"//A", "Save failed!", ",,A,<None>,,",
             "F/L/C/<None>/5/x", "B,,,,,|C,F,L,,5,x|A,,,G,,", "fname,lname,id,groupname,phonenum,note"};
         const QStringList shifts{"S", "Save failed!", "S,,08:00 AM,12:00 PM,04:00", "N/n/09:00 PM/11:30 PM",
                                  "S,S,08:00,16:00|N,n,21:00,23:30|T,T,22:00,23:00", "name,abbreviation,starttm,endtm"};
         QTest::newRow("shifts, times stored on 24 hours") << 2 << shifts;
-        QTest::newRow("standing rows, hidden employee kept") << 3 << QStringList{"G/S", "Save failed!", "G,S,,", "G/T/B",
+        QTest::newRow("standing rows, hidden employee kept") << 3
+            << QStringList{"G/S", "Save failed!", "G,S,,", "G/T/B",
             ",T,2;2;2;2;2;2;2,|G,S,1;1;1;1;1;1;1,|G,T,,B", "groupname,shiftname,daystaffnum"};
         QTest::newRow("customers, sorted by ID")
-            << 2 << (shifts.mid(0, 4) << "S,S,08:00,16:00|T,T,22:00,23:00|N,n,21:00,23:30" << shifts[5] << "ck_employeeLockSchedule");
+            << 2
+            << (shifts.mid(0, 4) << "S,S,08:00,16:00|T,T,22:00,23:00|N,n,21:00,23:30" << shifts[5]
+                                 << "ck_employeeLockSchedule");
     }
     void saveAndExchange()
     {
-        QFETCH(int, tab); QFETCH(QStringList, f);
+        QFETCH(int, tab);
+        QFETCH(QStringList, f);
         const auto database = [] {
             QStringList text;
             for (const QString &name : kTables)
@@ -114,31 +123,42 @@ private slots:
         QStringList expected = database();
         if (f.size() > 6)
             dialog->findChild<QAbstractButton *>(f[6])->click();
-        const QString shown = cells(table(tab)); Boxes boxes;
-        addRow(tab, f[0]); click(tab, "Save");
+        const QString shown = cells(table(tab));
+        Boxes boxes;
+        addRow(tab, f[0]);
+        click(tab, "Save");
         QCOMPARE(boxes.texts.value(0) + "|" + cells(table(tab)), f[1] + "|" + shown + "|" + f[2]);
         QCOMPARE(database(), expected);
         table(tab)->selectRow(table(tab)->rowCount() - 1); // removed, and a row added afresh
         click(tab, "Delete");
-        addRow(tab, f[3]); click(tab, "Save");
-        expected[tab] = f[4]; QCOMPARE(database(), expected);
+        addRow(tab, f[3]);
+        click(tab, "Save");
+        expected[tab] = f[4];
+        QCOMPARE(database(), expected);
         const QString saved = cells(table(tab));
         const QString file = TestHome::path() + "/" + QTest::currentDataTag() + ".csv";
         QStringList exported, imported; // caption, filter and folder of each dialog
         answerFileDialog(file, &exported);
-        click(tab, "Export"); click(tab, "Add");
-        answerFileDialog(file), click(tab, "Import"); QFile written(file);
+        click(tab, "Export");
+        click(tab, "Add");
+        answerFileDialog(file);
+        click(tab, "Import");
+        QFile written(file);
         QCOMPARE((written.open(QIODevice::ReadOnly) ? written.readLine() : "no file") + cells(table(tab)),
                  f[5] + "\r\n" + QString(saved).replace("G,T,B,", "G,T,<None>,"));
-        const QString before = cells(table(tab)); QVERIFY(QFile::remove(file));
+        const QString before = cells(table(tab));
+        QVERIFY(QFile::remove(file));
         answerFileDialog(file, &exported, [file] { QDir().mkdir(file); });
-        click(tab, "Export"); QVERIFY(QDir().rmdir(file));
+        click(tab, "Export");
+        QVERIFY(QDir().rmdir(file));
         for (const QByteArray &content : {QByteArray(), QByteArray("name,note\r\n"), QByteArray("a,b\r\n1,2\r\n")}) {
             QVERIFY(writeFile(file, content));
             answerFileDialog(file, &imported, [file, content] { content.isEmpty() && QFile::remove(file); });
             click(tab, "Import");
         }
-        whenDialogOpens<QFileDialog>([](QFileDialog *dialog) { dialog->reject(); }), click(tab, "Import"); // cancelled: kept
+        // cancelled: kept
+        whenDialogOpens<QFileDialog>([](QFileDialog *dialog) { dialog->reject(); });
+        click(tab, "Import");
         QCOMPARE(boxes.texts.mid(1).join(" ") + "|" + cells(table(tab)),
                  "Export failed! Import failed! The content is empty! The content is empty!|" + before);
         QCOMPARE(exported + imported, QStringList({"Export", "CSV File(*.csv)", getAppDataPath(2), "Import",
@@ -154,16 +174,20 @@ private slots:
         QTest::newRow("group of an employee") << 1 << QStringList{"1", "3", "<None>", "<None>,G,H", ",,A,<None>,,"};
         QTest::newRow("group of a line") << 3 << QStringList{"1", "0", "H", "<None>,G,H", "H,T,<None>,2;2;2;2;2;2;2"};
         QTest::newRow("shift of a line") << 3 << QStringList{"1", "1", "S", "S,T", "<None>,S,<None>,2;2;2;2;2;2;2"};
-        QTest::newRow("employee of the group") << 3 << QStringList{"0", "2", "A", "<None>,A", "G,S,A,1;1;1;1;1;1;1", "ck_employeeLockSchedule"};
-        QTest::newRow("employee of no group") << 3 << QStringList{"1", "2", "B", "<None>,B", "<None>,T,B,2;2;2;2;2;2;2", "ck_employeeLockSchedule"};
+        QTest::newRow("employee of the group") << 3
+            << QStringList{"0", "2", "A", "<None>,A", "G,S,A,1;1;1;1;1;1;1", "ck_employeeLockSchedule"};
+        QTest::newRow("employee of no group") << 3
+            << QStringList{"1", "2", "B", "<None>,B", "<None>,T,B,2;2;2;2;2;2;2", "ck_employeeLockSchedule"};
         QTest::newRow("name of a shift") << 2 << QStringList{"0", "0", "Early", "S", "Early,S,08:00 AM,04:00 PM,08:00"};
         QTest::newRow("length") << 2 << QStringList{"1", "4", "08:00", "01:00", "T,T,10:00 PM,06:00 AM,08:00"};
         QTest::newRow("start") << 2 << QStringList{"1", "2", "04:00", "22:00", "T,T,04:00 AM,11:00 PM,19:00"};
-        QTest::newRow("end, 24 hours") << 2 << QStringList{"1", "3", "03:00", "23:00", "T,T,22:00,03:00,05:00", "ck_use24hour"};
+        QTest::newRow("end, 24 hours") << 2
+            << QStringList{"1", "3", "03:00", "23:00", "T,T,22:00,03:00,05:00", "ck_use24hour"};
     }
     void editors()
     {
-        QFETCH(int, tab); QFETCH(QStringList, f);
+        QFETCH(int, tab);
+        QFETCH(QStringList, f);
         if (f.size() > 5)
             dialog->findChild<QAbstractButton *>(f[5])->click();
         QCOMPARE(edit(tab, f[0].toInt(), f[1].toInt(), f[2]), f[3]);
@@ -174,19 +198,26 @@ private slots:
     // and Save stores as many rows as it has.
     void permanentRules()
     {
-        QCOMPARE(edit(3, 0, 3, ""), "no editor 1;1;1;1;1;1;1"); QCOMPARE(edit(3, 0, 3, "3"), "no editor 1;1;1;1;1;1;1");
+        QCOMPARE(edit(3, 0, 3, ""), "no editor 1;1;1;1;1;1;1");
+        QCOMPARE(edit(3, 0, 3, "3"), "no editor 1;1;1;1;1;1;1");
         QCOMPARE(cells(table(3)), "G,S,<None>,3;1;1;1;1;1;1|<None>,T,<None>,2;2;2;2;2;2;2");
-        const QString file = TestHome::path() + "/lines.csv"; answerFileDialog(file);
-        click(3, "Export"); click(3, "Add");
-        table(3)->setCurrentCell(0, 0); click(3, "Delete");
-        table(3)->item(1, 1)->setText("S"); QCOMPARE(edit(3, 1, 3, "5"), "no editor 0;0;0;0;0;0;0");
+        const QString file = TestHome::path() + "/lines.csv";
+        answerFileDialog(file);
+        click(3, "Export");
+        click(3, "Add");
+        table(3)->setCurrentCell(0, 0);
+        click(3, "Delete");
+        table(3)->item(1, 1)->setText("S");
+        QCOMPARE(edit(3, 1, 3, "5"), "no editor 0;0;0;0;0;0;0");
         QCOMPARE(cells(table(3)), "<None>,T,<None>,2;2;2;2;2;2;2|<None>,S,,5;0;0;0;0;0;0");
         click(3, "Save");
         QCOMPARE(cells(table(3)), "<None>,S,<None>,5;0;0;0;0;0;0|<None>,T,<None>,3;1;1;1;1;1;1"); // as stored
-        QVERIFY(writeFile(file, "groupname,shiftname,daystaffnum\r\nX,S,<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' "
-                                "dayweek='1;2'/>\r\nY,T,<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>\r\n"
+        QVERIFY(writeFile(file, "groupname,shiftname,daystaffnum\r\n"
+                                "X,S,<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>\r\n"
+                                "Y,T,<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>\r\n"
                                 "Z,S,<dt stn='1;;3'/>\r\n"));
-        answerFileDialog(file); click(3, "Import");
+        answerFileDialog(file);
+        click(3, "Import");
         QCOMPARE(cells(table(3)), "X,S,<None>,From:2026-03-01 To:2026-03-31 Week:5 Day of week:1;2|"
                                   "Y,T,<None>,Date:2026-03-02 Week:1 Day of week:1|Z,S,<None>,1;;3");
         // The third row has no element: its rule reads as empty and an accepted one is not kept.

@@ -21,8 +21,10 @@ class UpdateTest : public QObject
 {
     Q_OBJECT
     QTcpServer host;
-    QMap<QByteArray, QByteArray> answers; QPointer<QTcpSocket> last;
-    QList<QUrl> opened; RosteraMain *window = nullptr;
+    QMap<QByteArray, QByteArray> answers;
+    QPointer<QTcpSocket> last;
+    QList<QUrl> opened;
+    RosteraMain *window = nullptr;
     const QString tmp = TestHome::path() + "/tmp", hostUrl = "http://127.0.0.1:%1";
 
 public slots:
@@ -31,7 +33,8 @@ public slots:
 private slots:
     void initTestCase()
     {
-        const timespec date = {QDateTime(QDate(2013, 5, 9), QTime(12, 0)).toSecsSinceEpoch(), 0}, dates[] = {date, date};
+        const timespec date = {QDateTime(QDate(2013, 5, 9), QTime(12, 0)).toSecsSinceEpoch(), 0};
+        const timespec dates[] = {date, date};
         QVERIFY(utimensat(0, QFile::encodeName(QCoreApplication::applicationFilePath()), dates, 0) == 0);
         QVERIFY(host.listen(QHostAddress::LocalHost));
         connect(&host, &QTcpServer::newConnection, this, [this] {
@@ -41,7 +44,8 @@ private slots:
                 answer.isEmpty() ? socket->close() : void(socket->write(answer));
             });
         });
-        QDesktopServices::setUrlHandler("file", this, "openUrl"); QVERIFY(QDir().mkpath(tmp) && (window = openWindow()));
+        QDesktopServices::setUrlHandler("file", this, "openUrl");
+        QVERIFY(QDir().mkpath(tmp) && (window = openWindow()));
     }
     void cleanupTestCase() { QDesktopServices::unsetUrlHandler("file"); }
     // One path for all: the start-up check (its option off) and the dialog read the version file, the update
@@ -49,41 +53,61 @@ private slots:
     // a download runs (answered No, then Yes).
     void update_data()
     {
-        QTest::addColumn<QByteArray>("file"), QTest::addColumn<QByteArray>("installer"), QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("shown"), QTest::addColumn<QString>("offered"), QTest::addColumn<int>("progress");
-        QTest::addColumn<QStringList>("messages"), QTest::addColumn<qint64>("bytes");
-        const QString cancel = "Being updated, you want to cancel?", notes = "[4.1.1]\nFaster.", exe = QCoreApplication::applicationFilePath();
-        const QByteArray v = notes.toLatin1(), none;
-        QTest::newRow("equal") << QByteArray("[3.5.9]\nNotes") << none << "" << "[3.5.9]\nNotes" << "" << 0 << QStringList() << 0LL;
-        QTest::newRow("blank first") << QByteArray(" [4.1.1]") << none << "" << " [4.1.1]" << "" << 0 << QStringList() << 0LL;
-        QTest::newRow("too long") << QByteArray("[10.12.31.99]") << none << "" << "[10.12.31.99]" << "" << 0 << QStringList() << 0LL;
-        QTest::newRow("nul byte") << QByteArray("[4.1\0.1] x", 10) << none << "" << "[4.1" << "" << 0 << QStringList() << 0LL;
-        QTest::newRow("closed port") << none << none << "" << "" << "" << 0 << QStringList() << 0LL;
-        QTest::newRow("installer") << v << http(QByteArray(10001, 'x')) << "" << notes << "4.1.1" << 100
-                                   << QStringList("Download update file finish\nThe update file is in " + tmp) << 10001LL;
-        QTest::newRow("error page") << v << http(QByteArray(10000, 'x')) << "" << notes << "4.1.1" << 100 << QStringList("Download file failed") << 10000LL;
-        QTest::newRow("no answer") << QByteArray("[1.1.1.1]") << none << "" << "[1.1.1.1]" << "1.1.1.1" << 0 << QStringList("Download error") << 0LL;
-        QTest::newRow("no folder") << v << http("x") << exe << notes << "4.1.1" << 0 << QStringList("Create update file failed") << 0LL;
-        QTest::newRow("cancelled") << v << http(QByteArray(2000, 'x'), 50000) << "" << notes << "4.1.1" << 4 << QStringList{cancel, cancel} << 2000LL;
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("installer");
+        for (const char *column : {"folder", "shown", "offered"})
+            QTest::addColumn<QString>(column);
+        QTest::addColumn<int>("progress");
+        QTest::addColumn<QStringList>("messages");
+        QTest::addColumn<qint64>("bytes");
+        const auto row = [](const char *tag, const QByteArray &file, const QString &shown,
+                            const QByteArray &installer = {}, const QString &offered = {}, int progress = 0,
+                            const QStringList &messages = {}, qint64 bytes = 0, const QString &folder = {}) {
+            QTest::newRow(tag) << file << installer << folder << shown << offered << progress << messages << bytes;
+        };
+        const QString cancel = "Being updated, you want to cancel?", notes = "[4.1.1]\nFaster.";
+        const QByteArray v = notes.toLatin1();
+        row("equal", "[3.5.9]\nNotes", "[3.5.9]\nNotes");
+        row("blank first", " [4.1.1]", " [4.1.1]");
+        row("too long", "[10.12.31.99]", "[10.12.31.99]");
+        row("nul byte", QByteArray("[4.1\0.1] x", 10), "[4.1");
+        row("closed port", {}, "");
+        row("installer", v, notes, http(QByteArray(10001, 'x')), "4.1.1", 100,
+            {"Download update file finish\nThe update file is in " + tmp}, 10001);
+        row("error page", v, notes, http(QByteArray(10000, 'x')), "4.1.1", 100, {"Download file failed"}, 10000);
+        row("no answer", "[1.1.1.1]", "[1.1.1.1]", {}, "1.1.1.1", 0, {"Download error"});
+        row("no folder", v, notes, http("x"), "4.1.1", 0, {"Create update file failed"}, 0,
+            QCoreApplication::applicationFilePath());
+        row("cancelled", v, notes, http(QByteArray(2000, 'x'), 50000), "4.1.1", 4, {cancel, cancel}, 2000);
     }
     void update()
     {
-        QFETCH(QByteArray, file); QFETCH(QByteArray, installer); QFETCH(QString, folder); QFETCH(QString, shown);
-        QFETCH(QString, offered); QFETCH(int, progress); QFETCH(QStringList, messages); QFETCH(qint64, bytes);
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, installer);
+        QFETCH(QString, folder);
+        QFETCH(QString, offered);
+        QFETCH(int, progress);
+        QFETCH(QStringList, messages);
         answers = {{SoftUpdate::versionFile, http(file)}, {SoftUpdate::installerFile, installer}};
         SoftUpdate::server = hostUrl.arg(file.isEmpty() ? 1 : host.serverPort());
-        qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8()); QFile::remove(tmp + "/rtrupdate.exe"), opened.clear();
+        qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8());
+        QFile::remove(tmp + "/rtrupdate.exe");
+        opened.clear();
         QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("auto update", false);
-        window->ui->action_Update->setVisible(false); window->checkUpdate();
-        SoftUpdate dialog; dialog.show();
+        window->ui->action_Update->setVisible(false);
+        window->checkUpdate();
+        SoftUpdate dialog;
+        dialog.show();
         QTRY_VERIFY(!dialog.versionReply && !window->findChild<QNetworkAccessManager *>());
-        QCOMPARE(dialog.ui->lab_version->text(), offered.isEmpty() ? QString("Current[3.5.9] is the latest version")
-                                                                   : QString("New version[%1] available, current version[3.5.9]").arg(offered));
-        QCOMPARE(dialog.ui->ed_versionText->toPlainText(), shown);
+        QCOMPARE(dialog.ui->lab_version->text(),
+                 offered.isEmpty() ? QString("Current[3.5.9] is the latest version")
+                                   : QString("New version[%1] available, current version[3.5.9]").arg(offered));
+        QTEST(dialog.ui->ed_versionText->toPlainText(), "shown");
         QCOMPARE(window->ui->action_Update->isVisible(), !offered.isEmpty());
         QCOMPARE(dialog.ui->btn_update->isEnabled(), !offered.isEmpty());
         Boxes boxes({QMessageBox::No, QMessageBox::Yes});
-        QTest::mouseClick(dialog.ui->btn_update, Qt::LeftButton); const int questions = messages.filter("cancel?").size();
+        QTest::mouseClick(dialog.ui->btn_update, Qt::LeftButton);
+        const int questions = messages.filter("cancel?").size();
         QTRY_VERIFY(questions ? dialog.ui->progressBar->value() == progress : boxes.texts.size() == messages.size());
         QTRY_VERIFY(!QApplication::activeModalWidget());
         for (int click = 0; click < 2 && dialog.isVisible(); ++click)
@@ -91,8 +115,10 @@ private slots:
         QTRY_VERIFY(!dialog.isVisible() && (!last || last->state() == QAbstractSocket::UnconnectedState));
         QCOMPARE(boxes.texts, messages);
         QCOMPARE(boxes.titles, QStringList(messages.size(), questions ? "Software Update" : ""));
-        QCOMPARE(dialog.ui->progressBar->value(), progress); QCOMPARE(QFileInfo(tmp + "/rtrupdate.exe").size(), bytes);
-        QCOMPARE(opened, QList<QUrl>(messages.value(0).startsWith("Download update file finish"), QUrl::fromLocalFile(tmp)));
+        QCOMPARE(dialog.ui->progressBar->value(), progress);
+        QTEST(QFileInfo(tmp + "/rtrupdate.exe").size(), "bytes");
+        const bool finished = messages.value(0).startsWith("Download update file finish");
+        QCOMPARE(opened, QList<QUrl>(finished, QUrl::fromLocalFile(tmp)));
     }
     // With the option unset (on), a newer version opens the dialog, whose check box turns the option off.
     void autoUpdate()
@@ -101,7 +127,8 @@ private slots:
         SoftUpdate::server = hostUrl.arg(host.serverPort());
         QSettings(getAppDataPath(0), QSettings::IniFormat).remove("auto update");
         whenDialogOpens<SoftUpdate>([](SoftUpdate *dialog) {
-            QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton); dialog->reject();
+            QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton);
+            dialog->reject();
         });
         window->checkUpdate();
         QTRY_COMPARE(QSettings(getAppDataPath(0), QSettings::IniFormat).value("auto update"), QVariant(false));
