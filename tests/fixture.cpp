@@ -51,6 +51,11 @@ QString TestHome::path()
     return g_home;
 }
 
+QString TestHome::file(const QString &name)
+{
+    return g_home + "/" + name;
+}
+
 ASAttribute record(std::initializer_list<std::pair<QString, QString>> values)
 {
     ASAttribute r;

@@ -26,6 +26,8 @@ public:
     TestHome();
     ~TestHome();
     static QString path();
+    // A file of the home by name.
+    static QString file(const QString &name);
 };
 
 ASAttribute record(std::initializer_list<std::pair<QString, QString>> values);

@@ -24,11 +24,6 @@ static const QString kNewRule = QString(kCreate[3]).replace(",[employee_name]", 
 static const QString kBadRule =
     QString(kOldRule).replace("[daystaffnum] NTEXT", "[daystaffnum] AS (nosuchfunction(groupname))");
 
-static QString home(const QString &name)
-{
-    return TestHome::path() + "/" + name;
-}
-
 static QString lastDb()
 {
     return QSettings(getAppDataPath(3) + "/ConfigData/config.ini", QSettings::IniFormat).value("lastdb").toString();
@@ -116,44 +111,44 @@ private slots:
         }
         // An empty name follows "lastdb"; a configuration of junk, or none, gives the first-start file.
         const char junk[] = "\x01\xff[[=\n\x00\x00lastdb\xfe\n=====\n[Options\nlanguage\n";
-        QVERIFY(db->openDB(home("other.db")));
+        QVERIFY(db->openDB(TestHome::file("other.db")));
         db->closeDB();
-        QVERIFY(db->openDB(QString()) && db->getDBName() == home("other.db"));
+        QVERIFY(db->openDB(QString()) && db->getDBName() == TestHome::file("other.db"));
         QVERIFY(writeFile(getAppDataPath(0), QByteArray(junk, sizeof junk - 1).repeated(20)) && db->openDB(QString())
                 && db->getDBName() == first);
-        QVERIFY(db->openDB(home("other.db")) && QFile::remove(getAppDataPath(0)) && db->openDB(QString())
+        QVERIFY(db->openDB(TestHome::file("other.db")) && QFile::remove(getAppDataPath(0)) && db->openDB(QString())
                 && db->getDBName() == first && boxes.texts.isEmpty());
     }
     void unusableFiles()
     {
         // A failed open keeps the file, the caches and "lastdb" as they were, and at start it is said.
-        QVERIFY(db->openDB(home("kept.db")) && writePlan("group Only") && !db->openDB(home("no/such/x.db"))
-                && lastDb() == home("kept.db"));
-        QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("lastdb", home("no/such/x.db"));
-        QVERIFY(!openStartDatabase() && db->getDBName() == home("kept.db")
+        QVERIFY(db->openDB(TestHome::file("kept.db")) && writePlan("group Only") && !db->openDB(TestHome::file("no/such/x.db"))
+                && lastDb() == TestHome::file("kept.db"));
+        QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("lastdb", TestHome::file("no/such/x.db"));
+        QVERIFY(!openStartDatabase() && db->getDBName() == TestHome::file("kept.db")
                 && rowsText("SELECT name FROM t_groupinfo") == "Only" && show(db->groups) == "abbreviation=Only name=Only");
         // A file that is no database opens but answers no query: it has every table, at version "1.00", and its
         // upgrade fails.
         const QByteArray junk = QByteArray("This is a shopping list and no database at all.\n").repeated(40);
         QVector<ASAttribute> out, staffs = db->staffs;
-        QVERIFY(writeFile(home("list.db"), junk) && db->openDB(home("list.db")) && db->isExistTable("t_none")
+        QVERIFY(writeFile(TestHome::file("list.db"), junk) && db->openDB(TestHome::file("list.db")) && db->isExistTable("t_none")
                 && db->getVersion() == "1.00");
         QVERIFY(!db->groupInfo(out) && !db->staffInfo(out) && !db->shiftInfo(out) && !db->permanentSchedule(out)
                 && !db->holidayInfo(out) && !db->schedule(out, "1=1"));
-        QVERIFY(out.isEmpty() && db->staffs == staffs && content(home("list.db")) == junk);
+        QVERIFY(out.isEmpty() && db->staffs == staffs && content(TestHome::file("list.db")) == junk);
         // A read-only file of an older program: the first table it lacks can't be made, and there it ends; a
         // save fails and keeps everything.
-        QVERIFY(db->openDB(home("readonly.db")) && rows("DROP TABLE t_holidayinfo").isEmpty()
-                && rows("DROP TABLE t_version").isEmpty() && db->openDB(home("kept.db")));
-        const QByteArray before = content(home("readonly.db"));
+        QVERIFY(db->openDB(TestHome::file("readonly.db")) && rows("DROP TABLE t_holidayinfo").isEmpty()
+                && rows("DROP TABLE t_version").isEmpty() && db->openDB(TestHome::file("kept.db")));
+        const QByteArray before = content(TestHome::file("readonly.db"));
         // as SQLite opens a file it may not write, also for root
         db->db.setConnectOptions("QSQLITE_OPEN_READONLY");
-        QVERIFY(db->openDB(home("readonly.db")));
+        QVERIFY(db->openDB(TestHome::file("readonly.db")));
         QCOMPARE(boxes.texts, QStringList({"Open Database Failed!", "Update database failed!", "fail"}));
         QString error;
         const QVector<ASAttribute> groups = db->groups;
         QVERIFY2(!groups.isEmpty() && !db->saveGroupInfo(out, error) && error.contains("readonly")
-                     && db->groups == groups && content(home("readonly.db")) == before,
+                     && db->groups == groups && content(TestHome::file("readonly.db")) == before,
                  qPrintable(error));
         QCOMPARE(rowsText("SELECT name FROM sqlite_master WHERE type='table' ORDER BY rowid"),
                  "t_groupinfo | t_staffinfo | t_shiftinfo | t_permanentschedule | t_vacationinfo | t_lock_employee | "
@@ -200,7 +195,7 @@ private slots:
         QFETCH(QString, record);
         QFETCH(QString, readBack);
         QFETCH(QString, texts);
-        QVERIFY(db->openDB(home("store.db")));
+        QVERIFY(db->openDB(TestHome::file("store.db")));
         QCOMPARE(saveAndRead(kind, {parse(record)}), "saved: " + readBack);
         for (const QString &field : texts.split(' ', Qt::SkipEmptyParts)) {
             const QString key = field.chopped(field.endsWith('*')), was = key + "=" + parse(record).attr(key, QString());
@@ -216,7 +211,7 @@ private slots:
         QVector<ASAttribute> broken = planRecords("schedule", "2025-04-02/G/S/ 2025-04-02/G/S/it's");
         // Inserts only: a cell that has a row fails the batch. Nobody left removes the row, an update never makes
         // one, and a failing statement undoes the batch.
-        QVERIFY(db->openDB(home("reads.db")) && writePlan("schedule 2025-04-01/G/S/A;B 2025-04-02/G/S/C")
+        QVERIFY(db->openDB(TestHome::file("reads.db")) && writePlan("schedule 2025-04-01/G/S/A;B 2025-04-02/G/S/C")
                 && !db->saveSchedule(clash));
         QVERIFY(db->schedule(out, "date>='2025-04-01' and groupname='G'") && !db->schedule(out, QString()));
         QCOMPARE(show(out), QString("date=2025-04-01 groupname=G infotype=schedule shiftname=S staffs=A;B | "
@@ -247,10 +242,10 @@ private slots:
         QFETCH(QStringList, shape);
         QFETCH(QString, warning);
         QFETCH(QString, rule);
-        QVERIFY(db->openDB(home("upgrade.db")) && writePlan("group Own"));
+        QVERIFY(db->openDB(TestHome::file("upgrade.db")) && writePlan("group Own"));
         for (const QString &sql : shape)
             QVERIFY2(rows(sql).isEmpty(), qPrintable(sql));
-        QVERIFY(db->openDB(home("between.db")) && db->openDB(home("upgrade.db")));
+        QVERIFY(db->openDB(TestHome::file("between.db")) && db->openDB(TestHome::file("upgrade.db")));
         QCOMPARE(boxes.texts, QStringList(warning.isEmpty() ? 0 : 1, warning));
         // and a table there is not seeded
         QCOMPARE(rowsText("SELECT sql FROM sqlite_master WHERE name='t_permanentschedule'") + " | "
@@ -258,7 +253,7 @@ private slots:
                  rule + " | 1.01 | Own");
         QVERIFY(rule != kNewRule
                 || rowsText("SELECT * FROM t_permanentschedule") == "N,Day,1;0, | S,Night,<dt t=\"0\"/>,");
-        QVERIFY(db->openDB(home("between.db")) && db->openDB(home("upgrade.db"))
+        QVERIFY(db->openDB(TestHome::file("between.db")) && db->openDB(TestHome::file("upgrade.db"))
                 && boxes.texts.size() == (warning.isEmpty() ? 0 : 1));
     }
 };

@@ -17,19 +17,6 @@
 #include "reports/reports.h"
 #include "ui_rosteramain.h"
 
-static QString home(const QString &name)
-{
-    return TestHome::path() + "/" + name;
-}
-
-static QString lines(const QString &sql)
-{
-    QStringList out;
-    for (const QStringList &row : rows(sql))
-        out << row.join(',');
-    return out.join(" | ");
-}
-
 // While it lives, no file of this process may grow beyond the given size: a full disk, as
 // SQLite meets it, without a file system of its own.
 class FileSizeLimit
@@ -65,9 +52,9 @@ private slots:
     void missingTemplates()
     {
         Boxes boxes;
-        QVERIFY(db->openDB(home("bare.db")));
-        QCOMPARE(lines("SELECT COUNT(*) FROM sqlite_master WHERE type='table'"), "9");
-        QCOMPARE(lines("SELECT (SELECT COUNT(*) FROM t_groupinfo) + (SELECT COUNT(*) FROM t_staffinfo) + "
+        QVERIFY(db->openDB(TestHome::file("bare.db")));
+        QCOMPARE(rowsText("SELECT COUNT(*) FROM sqlite_master WHERE type='table'"), "9");
+        QCOMPARE(rowsText("SELECT (SELECT COUNT(*) FROM t_groupinfo) + (SELECT COUNT(*) FROM t_staffinfo) + "
                        "(SELECT COUNT(*) FROM t_shiftinfo) + (SELECT COUNT(*) FROM t_permanentschedule) + "
                        "(SELECT COUNT(*) FROM t_holidayinfo)"),
                  "0");
@@ -83,24 +70,24 @@ private slots:
         Boxes boxes;
         db->closeDB();
         db->db.setConnectOptions("QSQLITE_BUSY_TIMEOUT=200");
-        QVERIFY(db->openDB(home("shared.db")) && writePlan("group Mine | staff A/Mine"));
+        QVERIFY(db->openDB(TestHome::file("shared.db")) && writePlan("group Mine | staff A/Mine"));
         {
             QSqlDatabase other = QSqlDatabase::addDatabase("QSQLITE", "other");
-            other.setDatabaseName(home("shared.db"));
+            other.setDatabaseName(TestHome::file("shared.db"));
             QSqlQuery query(other);
             QVERIFY(other.open() && query.exec("BEGIN IMMEDIATE") && query.exec("INSERT INTO t_groupinfo VALUES ('Theirs','T','')"));
             QVector<ASAttribute> groups = planRecords("group", "Replaced");
             QString error;
             QVERIFY(!db->saveGroupInfo(groups, error));
             QVERIFY2(error.contains("locked"), qPrintable(error));
-            QCOMPARE(lines("SELECT name FROM t_groupinfo"), "Mine");
+            QCOMPARE(rowsText("SELECT name FROM t_groupinfo"), "Mine");
             QVERIFY(query.exec("COMMIT"));
-            QCOMPARE(lines("SELECT name FROM t_groupinfo ORDER BY 1"), "Mine | Theirs");
+            QCOMPARE(rowsText("SELECT name FROM t_groupinfo ORDER BY 1"), "Mine | Theirs");
 
             QVERIFY(query.exec("BEGIN EXCLUSIVE"));
-            QVERIFY(db->openDB(home("other.db")) && !db->openDB(home("shared.db")));
-            QCOMPARE(db->getDBName(), home("other.db"));
-            QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("lastdb", home("shared.db"));
+            QVERIFY(db->openDB(TestHome::file("other.db")) && !db->openDB(TestHome::file("shared.db")));
+            QCOMPARE(db->getDBName(), TestHome::file("other.db"));
+            QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("lastdb", TestHome::file("shared.db"));
             db->closeDB();
             QVERIFY(!openStartDatabase());
             QCOMPARE(boxes.texts, QStringList{"Open Database Failed!"});
@@ -108,15 +95,15 @@ private slots:
             other.close();
         }
         QSqlDatabase::removeDatabase("other");
-        QVERIFY(db->openDB(home("shared.db")));
-        QCOMPARE(lines("SELECT name FROM t_groupinfo ORDER BY 1"), "Mine | Theirs");
+        QVERIFY(db->openDB(TestHome::file("shared.db")));
+        QCOMPARE(rowsText("SELECT name FROM t_groupinfo ORDER BY 1"), "Mine | Theirs");
         db->db.setConnectOptions();
     }
 
     // No file may grow: each save is refused whole with its message, and the file stays sound.
     void fullDisk()
     {
-        QVERIFY(db->openDB(home("full.db")));
+        QVERIFY(db->openDB(TestHome::file("full.db")));
         QVERIFY(writePlan("staff A/G B/G C/G | row G/S/1;1;1;1;1;1;1 | schedule 2026-03-02/G/S/C"));
         RosteraMain *window = openWindow();
         QVERIFY(window);
@@ -129,8 +116,8 @@ private slots:
             window->auto_schedule(window->cycleDates, true);
             QCOMPARE(boxes.texts, QStringList{"Save schedule information failed!"});
         }
-        QCOMPARE(lines("PRAGMA integrity_check"), "ok");
-        QCOMPARE(lines("SELECT id FROM t_staffinfo ORDER BY 1"), "A | B | C");
+        QCOMPARE(rowsText("PRAGMA integrity_check"), "ok");
+        QCOMPARE(rowsText("SELECT id FROM t_staffinfo ORDER BY 1"), "A | B | C");
         QCOMPARE(scheduleTable(), QStringList{"2026-03-02 G S C"});
         delete window;
     }
@@ -139,13 +126,13 @@ private slots:
     // all of it; tables of other columns are read by position and refuse a save.
     void foreignPlans()
     {
-        QVERIFY(db->openDB(home("newer.db")) && writePlan("group G"));
+        QVERIFY(db->openDB(TestHome::file("newer.db")) && writePlan("group G"));
         QVERIFY(rows("UPDATE t_version SET version='3.00'").isEmpty());
         QVERIFY(rows("DROP TABLE t_staffinfo").isEmpty());
         QVERIFY(rows("CREATE TABLE t_staffinfo (id TEXT, lname TEXT, extra TEXT)").isEmpty());
         QVERIFY(rows("INSERT INTO t_staffinfo VALUES ('E1', 'Bell', 'more')").isEmpty());
         Boxes boxes;
-        QVERIFY(db->openDB(home("other.db")) && db->openDB(home("newer.db")));
+        QVERIFY(db->openDB(TestHome::file("other.db")) && db->openDB(TestHome::file("newer.db")));
         QCOMPARE(boxes.texts,
                  QStringList{"This plan has the database version 3.00, which is newer than this program knows (1.01). "
                              "It is opened as it is; saving may lose what the newer version keeps."});
@@ -153,20 +140,20 @@ private slots:
         QCOMPARE(show(db->staffs), "fname=Bell groupname= id=E1 infotype=staff lname=more note= phonenum=");
         QVector<ASAttribute> staff = planRecords("staff", "E2/G");
         QVERIFY(!db->saveStaffInfo(staff));
-        QCOMPARE(lines("SELECT id, lname FROM t_staffinfo"), "E1,Bell");
+        QCOMPARE(rowsText("SELECT id, lname FROM t_staffinfo"), "E1,Bell");
     }
 
     // A configuration written by hand or by accident: wrong types, binary bytes, numbers out of
     // range. The program starts and shows its grid.
     void junkConfiguration()
     {
-        QVERIFY(db->openDB(home("config.db")) && writePlan("staff A/G | row G/S/1;1;1;1;1;1;1"));
+        QVERIFY(db->openDB(TestHome::file("config.db")) && writePlan("staff A/G | row G/S/1;1;1;1;1;1;1"));
         QByteArray junk = "language=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\x4junk)\ncolumns=!!not base64\x01\xfe\n"
                           "auto%20update=@Rect(1 2 3 4)\n[Options]\ncycle%20days=2000000000\nshow%20from%20week=\x02\x03\n"
                           "work%20week=\x01\xff,9,x\nuse%2024h=@Size(1 2)\n[print%20settings]\npage%20margins=yes\n"
                           "print%20configure=<report><type0 title=\"\x00\x01\"\n";
         junk.replace("\\0", QByteArray(1, '\0'));
-        QVERIFY(writeFile(getAppDataPath(0), junk.prepend("lastdb=" + home("config.db").toUtf8() + "\n")));
+        QVERIFY(writeFile(getAppDataPath(0), junk.prepend("lastdb=" + TestHome::file("config.db").toUtf8() + "\n")));
         QCOMPARE(storedLanguage(), 0);
         QVERIFY(openStartDatabase());
         RosteraMain *window = openWindow();
@@ -195,10 +182,10 @@ private slots:
         QFETCH(QByteArray, content);
         QFETCH(int, records);
         QFETCH(int, longest);
-        QVERIFY(writeFile(home("big.csv"), content));
+        QVERIFY(writeFile(TestHome::file("big.csv"), content));
         QVector<ASAttribute> read;
         QStringList keys = {"id", "fname", "lname", "groupname"};
-        QVERIFY(infoImport(read, keys, home("big.csv")));
+        QVERIFY(infoImport(read, keys, TestHome::file("big.csv")));
         QCOMPARE(read.size(), records);
         int longestRead = 0;
         for (const ASAttribute &record : read)

@@ -88,14 +88,11 @@ private slots:
                                    "'2026-03-05',x'47','S','D'", "'2026-03-06','O''N','S','E'",
                                    "'2026-09-06','G','S','F'"})
             QCOMPARE(rows(QString("insert into t_schedule values (%1)").arg(values)), QList<QStringList>());
-        const GroupRecords::Read read = [](QVector<ASAttribute> &list, QString filter) {
-            return getDB()->schedule(list, filter);
-        };
-        const GroupRecords groups(read, " and date<='2026-03-31'");
+        const GroupRecords groups = GroupRecords::ofSchedule(" and date<='2026-03-31'");
         for (const QString group : {"G", "", "O'N", "x' or '1'='1", "H"}) {
             QVector<ASAttribute> served, own;
             const bool ok = groups.of(group, served);
-            QCOMPARE(ok, read(own, QString("groupname='%1'").arg(group) + " and date<='2026-03-31'"));
+            QCOMPARE(ok, getDB()->schedule(own, QString("groupname='%1'").arg(group) + " and date<='2026-03-31'"));
             QCOMPARE(show(served), show(own));
         }
     }

@@ -223,7 +223,7 @@ private slots:
         result = QStringList{added, edited, "|"} + result;
         result << table(name) << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
         QVERIFY(boxes.titles.join("").isEmpty() && boxes.icons.count(QMessageBox::Warning) == boxes.icons.size());
-        const QString path = TestHome::path() + "/" + kind + ".csv";
+        const QString path = TestHome::file(kind + ".csv");
         answerFileDialog(path);
         press("export");
         QFile exported(path);

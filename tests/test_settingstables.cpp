@@ -136,7 +136,7 @@ private slots:
         expected[tab] = f[4];
         QCOMPARE(database(), expected);
         const QString saved = cells(table(tab));
-        const QString file = TestHome::path() + "/" + QTest::currentDataTag() + ".csv";
+        const QString file = TestHome::file(QTest::currentDataTag() + QString(".csv"));
         QStringList exported, imported; // caption, filter and folder of each dialog
         answerFileDialog(file, &exported);
         click(tab, "Export");

@@ -116,7 +116,7 @@ private slots:
         QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(",") + " " + config().value("lastdb").toString(),
                  "Rostera-second Solo--Z1 " + second);
         // A path longer than the database library takes does not open: the previous file stays.
-        const QString folder = TestHome::path() + "/" + QStringList(3, QString(200, 'a')).join('/');
+        const QString folder = TestHome::file(QStringList(3, QString(200, 'a')).join('/'));
         QVERIFY(QDir().mkpath(folder) && QFile::copy(defaultDb, folder + "/plan.db"));
         answerFileDialog(folder + "/plan.db", &dialog);
         window->ui->actionOpen_Database->trigger();
