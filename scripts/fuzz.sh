@@ -49,8 +49,9 @@ for target in csv staffnum xml opendb; do
     build-fuzz/fuzz/fuzz_$target -max_total_time="$seconds" -print_final_stats=1 -rss_limit_mb=4096 \
         -artifact_prefix="build-fuzz/crashes/$target/" "build-fuzz/corpus/$target" "$seeds/$target" 2>&1 |
         grep -E "^#[0-9]+ +DONE|stat::number_of_executed_units|cov:|ERROR|SUMMARY" | tail -4 || true
-    crashes=$(ls "build-fuzz/crashes/$target" | wc -l)
-    echo "fuzz_$target: crashes $crashes"
+    # Inputs that merely ran long (slow-unit-*, as on a busy machine) are kept but are no crash.
+    crashes=$(ls "build-fuzz/crashes/$target" | grep -vc '^slow-unit' || true)
+    echo "fuzz_$target: crashes $crashes, slow inputs $(ls "build-fuzz/crashes/$target" | grep -c '^slow-unit' || true)"
     [ "$crashes" -eq 0 ] || status=1
 done
 exit $status
