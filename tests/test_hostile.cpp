@@ -55,8 +55,8 @@ private slots:
         QVERIFY(db->openDB(TestHome::file("bare.db")));
         QCOMPARE(rowsText("SELECT COUNT(*) FROM sqlite_master WHERE type='table'"), "9");
         QCOMPARE(rowsText("SELECT (SELECT COUNT(*) FROM t_groupinfo) + (SELECT COUNT(*) FROM t_staffinfo) + "
-                       "(SELECT COUNT(*) FROM t_shiftinfo) + (SELECT COUNT(*) FROM t_permanentschedule) + "
-                       "(SELECT COUNT(*) FROM t_holidayinfo)"),
+                          "(SELECT COUNT(*) FROM t_shiftinfo) + (SELECT COUNT(*) FROM t_permanentschedule) + "
+                          "(SELECT COUNT(*) FROM t_holidayinfo)"),
                  "0");
         QCOMPARE(db->getVersion(), "1.01");
         QVERIFY(QDir(getAppDataPath(2)).isEmpty());
@@ -75,7 +75,8 @@ private slots:
             QSqlDatabase other = QSqlDatabase::addDatabase("QSQLITE", "other");
             other.setDatabaseName(TestHome::file("shared.db"));
             QSqlQuery query(other);
-            QVERIFY(other.open() && query.exec("BEGIN IMMEDIATE") && query.exec("INSERT INTO t_groupinfo VALUES ('Theirs','T','')"));
+            QVERIFY(other.open() && query.exec("BEGIN IMMEDIATE"));
+            QVERIFY(query.exec("INSERT INTO t_groupinfo VALUES ('Theirs','T','')"));
             QVector<ASAttribute> groups = planRecords("group", "Replaced");
             QString error;
             QVERIFY(!db->saveGroupInfo(groups, error));
@@ -148,10 +149,12 @@ private slots:
     void junkConfiguration()
     {
         QVERIFY(db->openDB(TestHome::file("config.db")) && writePlan("staff A/G | row G/S/1;1;1;1;1;1;1"));
+        // "\\0" stands for a NUL byte, which a literal would end at.
         QByteArray junk = "language=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\x4junk)\ncolumns=!!not base64\x01\xfe\n"
-                          "auto%20update=@Rect(1 2 3 4)\n[Options]\ncycle%20days=2000000000\nshow%20from%20week=\x02\x03\n"
-                          "work%20week=\x01\xff,9,x\nuse%2024h=@Size(1 2)\n[print%20settings]\npage%20margins=yes\n"
-                          "print%20configure=<report><type0 title=\"\x00\x01\"\n";
+                          "auto%20update=@Rect(1 2 3 4)\n[Options]\ncycle%20days=2000000000\n"
+                          "show%20from%20week=\x02\x03\nwork%20week=\x01\xff,9,x\nuse%2024h=@Size(1 2)\n"
+                          "[print%20settings]\npage%20margins=yes\n"
+                          "print%20configure=<report><type0 title=\"\\0\x01\"\n";
         junk.replace("\\0", QByteArray(1, '\0'));
         QVERIFY(writeFile(getAppDataPath(0), junk.prepend("lastdb=" + TestHome::file("config.db").toUtf8() + "\n")));
         QCOMPARE(storedLanguage(), 0);
