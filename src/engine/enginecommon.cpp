@@ -92,7 +92,8 @@ GroupRecords::GroupRecords(const Read &read, const QString &rest)
 
 GroupRecords GroupRecords::ofSchedule(const QString &rest)
 {
-    return GroupRecords([](QVector<ASAttribute> &list, QString filter) { return getDB()->schedule(list, filter); }, rest);
+    const Read read = [](QVector<ASAttribute> &list, QString filter) { return getDB()->schedule(list, filter); };
+    return GroupRecords(read, rest);
 }
 
 bool GroupRecords::of(const QString &group, QVector<ASAttribute> &out) const

@@ -171,7 +171,8 @@ void RosteraMain::refreshTable()
     // name changes the condition.
     std::optional<GroupRecords> groupRecords;
     if (!employeeLockSchedule)
-        groupRecords = GroupRecords::ofSchedule(QString(view == 1 ? " and typeof(shiftname)='text'" : "") + " and " + dateFilter);
+        groupRecords = GroupRecords::ofSchedule(QString(view == 1 ? " and typeof(shiftname)='text'" : "") + " and "
+                                                + dateFilter);
     // One query serves a run of rows of the same group (and, by schedule, the same shift).
     for (int r = 0; r < gridRows.size();) {
         const QString group = gridRows.at(r).attr("groupname", QString());
@@ -183,7 +184,8 @@ void RosteraMain::refreshTable()
             if (view == 1)
                 records.removeIf([&shift](const ASAttribute &record) { return record.attr("shiftname", QString()) != shift; });
         } else {
-            QString filter = employeeLockSchedule ? dateFilter : QString("groupname='%1'").arg(group) + " and " + dateFilter;
+            QString filter = employeeLockSchedule ? dateFilter
+                                                  : QString("groupname='%1'").arg(group) + " and " + dateFilter;
             if (view == 1)
                 filter = QString("%1 and shiftname='%2'").arg(filter, shift);
             if (!getDB()->schedule(records, filter))
