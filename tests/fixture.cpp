@@ -162,10 +162,8 @@ QString show(const QVector<ASAttribute> &records)
 
 QStringList scheduleTable()
 {
-    QStringList lines;
-    for (const QStringList &row : rows("select date, groupname, shiftname, staffs from t_schedule order by 1, 2, 3"))
-        lines << row.join(' ');
-    return lines;
+    return rowsText("select date, groupname, shiftname, staffs from t_schedule order by 1, 2, 3", " ", "\n")
+        .split('\n', Qt::SkipEmptyParts);
 }
 
 bool writeFile(const QString &path, const QByteArray &content)
