@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFile>
+#include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -172,9 +174,22 @@ bool writeFile(const QString &path, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
+QSettings config()
+{
+    return {getAppDataPath(0), QSettings::IniFormat};
+}
+
+QString pdfText(const QString &path)
+{
+    QProcess pdftotext;
+    pdftotext.start("pdftotext", {"-layout", path, "-"});
+    pdftotext.waitForFinished();
+    return QString::fromUtf8(pdftotext.readAllStandardOutput()).replace(QRegularExpression(" +"), " ");
+}
+
 void setOption(const QString &key, const QVariant &value)
 {
-    QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("Options/" + key, value);
+    config().setValue("Options/" + key, value);
 }
 
 QVector<QDate> daysFrom(const QDate &first, int count)

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
+#include <QSettings>
 #include <QTimer>
 #include <QtTest>
 
@@ -57,6 +58,10 @@ QList<QStringList> rows(const QString &sql);
 // The same rows as text: values joined by fieldSep, rows by rowSep.
 QString rowsText(const QString &sql, const QString &fieldSep = ",", const QString &rowSep = " | ");
 bool writeFile(const QString &path, const QByteArray &content);
+// The configuration file of the temporary home.
+QSettings config();
+// A PDF's text as pdftotext lays it out, runs of blanks squeezed to one; pages end in form feeds.
+QString pdfText(const QString &path);
 // Sets "Options/<key>" in the configuration file.
 void setOption(const QString &key, const QVariant &value);
 QVector<QDate> daysFrom(const QDate &first, int count);

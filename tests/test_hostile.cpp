@@ -88,7 +88,7 @@ private slots:
             QVERIFY(query.exec("BEGIN EXCLUSIVE"));
             QVERIFY(db->openDB(TestHome::file("other.db")) && !db->openDB(TestHome::file("shared.db")));
             QCOMPARE(db->getDBName(), TestHome::file("other.db"));
-            QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("lastdb", TestHome::file("shared.db"));
+            config().setValue("lastdb", TestHome::file("shared.db"));
             db->closeDB();
             QVERIFY(!openStartDatabase());
             QCOMPARE(boxes.texts, QStringList{"Open Database Failed!"});

@@ -2,7 +2,6 @@
 #include "fixture.h"
 
 #include <QPrinter>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "mainwindow/rosteramain.h"
@@ -34,12 +33,8 @@ static QList<QStringList> runReport(int kind, const QString &options)
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(dir.filePath("report.pdf"));
     r.printPreview(&printer);
-    QProcess pdftotext;
-    pdftotext.start("pdftotext", {"-layout", printer.outputFileName(), "-"});
-    pdftotext.waitForFinished();
     QList<QStringList> pages;
-    const QString out = QString::fromUtf8(pdftotext.readAllStandardOutput()).replace(QRegularExpression(" +"), " ");
-    for (const QString &page : out.split('\f', Qt::SkipEmptyParts))
+    for (const QString &page : pdfText(printer.outputFileName()).split('\f', Qt::SkipEmptyParts))
         pages << page.trimmed().split(QRegularExpression(" *\n[ \n]*"));
     return pages;
 }

@@ -3,8 +3,6 @@
 #include "fixture.h"
 
 #include <QFileDialog>
-#include <QRegularExpression>
-#include <QSettings>
 
 #include "core/apppaths.h"
 #include "persistence/databasefunc.h"
@@ -13,7 +11,6 @@
 #include "ui_reports.h"
 #include "ui_reportsettings.h"
 
-static QSettings config() { return {getAppDataPath(0), QSettings::IniFormat}; }
 
 class TestReports : public QObject
 {
@@ -39,11 +36,7 @@ class TestReports : public QObject
             spare.show();
             QTest::qWaitFor([&spare] { return !spare.isVisible(); });
         }
-        QProcess text;
-        text.start("pdftotext", {"-layout", file, "-"});
-        text.waitForFinished();
-        const QString pages = QString(text.readAllStandardOutput()).replace(QRegularExpression(" +"), " ");
-        return (QFile::exists(file) ? pages : "no file") + "|" + boxes.texts.join("|");
+        return (QFile::exists(file) ? pdfText(file) : "no file") + "|" + boxes.texts.join("|");
     }
 
 private slots:

@@ -93,7 +93,7 @@ private slots:
         qputenv("TMPDIR", (folder.isEmpty() ? tmp : folder).toUtf8());
         QFile::remove(tmp + "/rtrupdate.exe");
         opened.clear();
-        QSettings(getAppDataPath(0), QSettings::IniFormat).setValue("auto update", false);
+        config().setValue("auto update", false);
         window->ui->action_Update->setVisible(false);
         window->checkUpdate();
         SoftUpdate dialog;
@@ -125,13 +125,13 @@ private slots:
     {
         answers = {{SoftUpdate::versionFile, http("[4.1.1]")}};
         SoftUpdate::server = hostUrl.arg(host.serverPort());
-        QSettings(getAppDataPath(0), QSettings::IniFormat).remove("auto update");
+        config().remove("auto update");
         whenDialogOpens<SoftUpdate>([](SoftUpdate *dialog) {
             QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton);
             dialog->reject();
         });
         window->checkUpdate();
-        QTRY_COMPARE(QSettings(getAppDataPath(0), QSettings::IniFormat).value("auto update"), QVariant(false));
+        QTRY_COMPARE(config().value("auto update"), QVariant(false));
     }
 };
 

@@ -4,7 +4,6 @@
 #include <QActionGroup>
 #include <QDesktopServices>
 #include <QHeaderView>
-#include <QSettings>
 
 #include "core/apppaths.h"
 #include "core/helpers.h"
@@ -16,7 +15,6 @@
 #include "reports/reports.h"
 #include "ui_toolbar.h"
 
-static QSettings config() { return {getAppDataPath(0), QSettings::IniFormat}; }
 // The grid as text: per row its label ("+" when two lines high) and " column=text" for each
 // cell that has an item, a cell's lines joined by "/"; rows joined by "; ".
 static QString grid(const QTableWidget *table, int role = Qt::EditRole)
