@@ -11,22 +11,20 @@ A run can be stopped and started again; mutants already in OUT.json are not run 
 """
 import collections
 import glob
-import importlib.util
 import json
 import os
 import random
 import re
+import runpy
 import sys
+import types
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 
 
 def generator():
     path = os.path.join(HERE, "..", "..", "shared", "tools", "mutants.py")
-    spec = importlib.util.spec_from_file_location("mutants", os.path.normpath(path))
-    module = importlib.util.module_from_spec(spec)
-    spec.loader.exec_module(module)
-    return module
+    return types.SimpleNamespace(**runpy.run_path(os.path.normpath(path)))
 
 
 def failing_tests(mu, programs, env):
