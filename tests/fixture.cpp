@@ -1,4 +1,5 @@
 #include "fixture.h"
+#include "ui_rosteramain.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -13,12 +14,7 @@
 #include <cstdlib>
 #include <unistd.h>
 
-#include "core/apppaths.h"
 #include "mainwindow/appstart.h"
-#include "mainwindow/rosteramain.h"
-#include "mainwindow/toolbar.h"
-#include "persistence/databasefunc.h"
-#include "ui_rosteramain.h"
 #include "update/softupdate.h"
 
 static QString g_home;

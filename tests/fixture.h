@@ -15,9 +15,11 @@
 #include <initializer_list>
 #include <utility>
 
+#include "core/apppaths.h"
 #include "core/asattribute.h"
-
-class RosteraMain;
+#include "mainwindow/rosteramain.h"
+#include "mainwindow/toolbar.h"
+#include "persistence/databasefunc.h"
 
 // HOME and the XDG folders point into a fresh temporary folder before the application object
 // exists, so no real user data is touched; removed again at exit.

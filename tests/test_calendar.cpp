@@ -5,10 +5,9 @@
 #include <QStandardPaths>
 
 #include "fixture.h"
-#include "mainwindow/rosteramain.h"
+#include "ui_rosteramain.h"
 #include "reports/calendarexport.h"
 #include "ui_calendarexport.h"
-#include "ui_rosteramain.h"
 
 static const QString kNight = QString("Nachtschicht-über-Mitternacht-für-die-Küche-und-den-Empfang-bis-zum-Morgen");
 
@@ -105,22 +104,6 @@ private slots:
         QCOMPARE(again[2].section('|', 1, 1) + again[2].section('|', 4),
                  events[2].section('|', 1, 1) + "Customer: Odd,one;two (G)");
         QVERIFY(!first.contains("Customer"));
-    }
-    // Nothing in the span, one file without one employee, and a file that cannot be written (a folder holds its name,
-    // which stops root too): a message each, no file.
-    void refusals()
-    {
-        const QString locked = TestHome::path() + "/locked";
-        QVERIFY(QDir().mkpath(locked + "/N.ics"));
-        Boxes boxes;
-        exportCalendar(window, 0, "<All>", false, {2026, 3, 5}, {2026, 3, 19});
-        exportCalendar(window, 0, "<All>", true, {2026, 3, 1}, {2026, 3, 31});
-        answerFileDialog(locked);
-        exportCalendar(window, 1, "N", false, {2026, 3, 1}, {2026, 3, 31});
-        QCOMPARE(boxes.texts, QStringList({"Nothing is scheduled for the chosen employees in this span.",
-                                           "Choose one employee for a single file.",
-                                           "The calendar file " + locked + "/N.ics could not be written."}));
-        QCOMPARE(QDir(locked).entryList(QDir::Files | QDir::Hidden), QStringList());
     }
 };
 

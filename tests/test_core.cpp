@@ -1,11 +1,9 @@
 #include <QDomDocument>
 #include <QRandomGenerator>
 
-#include "core/csvfile.h"
 #include "core/helpers.h"
 #include "core/sortinfo.h"
 #include "fixture.h"
-#include "persistence/databasefunc.h"
 
 class TestCore : public QObject
 {
@@ -97,41 +95,6 @@ private slots:
         }
         QTEST(got.join(','), "answers");
     }
-    // Records as the fixture plans them, with "infotype" and "infosubtype" added.
-    void ordering_data()
-    {
-        for (const char *column : {"kind", "types", "items", "sorted"})
-            QTest::addColumn<QString>(column);
-        QTest::newRow("group, case-sensitive") << "group" << "group" << "b a B" << "B a b";
-        QTest::newRow("two") << "group" << "group" << "b a" << "a b";
-        QTest::newRow("shift by start")
-            << "shift" << "shift" << "Late/A/22:00 Early/Z/08:00" << "Early/Z/08:00 Late/A/22:00";
-        QTest::newRow("customer by abbreviation")
-            << "shift" << "shift cus" << "Early/Z/08:00 Late/A/22:00" << "Late/A/22:00 Early/Z/08:00";
-        QTest::newRow("staff by group, id as text") << "staff" << "staff" << "1/y 9/x 10/x 0/y" << "10/x 9/x 0/y 1/y";
-        QTest::newRow("rows, unknown shift first")
-            << "row" << "permanentschedule" << "b/Day a/Night a/Gone a/Day" << "a/Gone a/Day a/Night b/Day";
-        QTest::newRow("schedule")
-            << "schedule" << "schedule" << "3/a/Day 2/z/Night 2/z/Day 2/b/Night" << "2/b/Night 2/z/Day 2/z/Night 3/a/Day";
-    }
-    void ordering()
-    {
-        QFETCH(QString, kind);
-        QFETCH(QString, types);
-        QFETCH(QString, items);
-        QFETCH(QString, sorted);
-        const auto typed = [&](QVector<ASAttribute> list) {
-            for (ASAttribute &r : list) {
-                r.setAttr("infotype", types.section(' ', 0, 0));
-                r.setAttr("infosubtype", types.section(' ', 1));
-            }
-            return list;
-        };
-        getDB()->shifts = planRecords("shift", "Night/N/22:00 Day/D/08:00");
-        QVector<ASAttribute> records = typed(planRecords(kind, items));
-        sortRecords(records);
-        QCOMPARE(show(records), show(typed(planRecords(kind, sorted))));
-    }
     // The comparator says true for equal keys; the sort must still give an ordered permutation.
     void orderingWithEqualKeys()
     {
@@ -148,49 +111,6 @@ private slots:
             tags << cells[i].attr("staffs", QString());
         }
         QVERIFY(tags.removeDuplicates() == 0 && tags.size() == 1000);
-    }
-    void csvExport()
-    {
-        const QString path = TestHome::path() + "/out.csv";
-        QVector<ASAttribute> records = {record({{"name", "Zoë"}, {"starttm", "06:00"}}),
-                                              record({{"name", "Late, or not"}})};
-        QVector<ASAttribute> back = {record({{"name", "kept"}})};
-        QStringList fields = {"name", "starttm", "endtm"};
-        QFile file(path);
-        QVERIFY(infoExport(records, fields, path) && file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(),
-                 "name,starttm,endtm\r\n" + QString("Zoë").toLocal8Bit() + ",06:00,\r\nLate, or not,,\r\n");
-        QVERIFY(infoImport(back, fields, path) && !infoExport(records, fields, path + "/x")
-                && !infoImport(back, fields, path + ".none"));
-        // appended; a comma splits
-        QCOMPARE(show(back), QString("name=kept | endtm= name=Zoë starttm=06:00 | endtm= name=Late starttm= or not"));
-    }
-    void csvImport_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("fields");
-        QTest::addColumn<QString>("records");
-        QTest::newRow("header by name, any case, leftmost")
-            << QByteArray("EXTRA,StartTm,NAME,name\r\nx,08:00,Day,ignored\r\n") << "name,starttm,endtm"
-            << "name=Day starttm=08:00";
-        const QByteArray irregular = "\r\n\nname,date,days\r\n\r\n,,\r\nNewYear,2012-01-01\r\n\nXmas,2012-12-25,2\n\r\n";
-        QTest::newRow("blank, short and comma-only lines")
-            << irregular << "name,date,days"
-            << "date= days= name= | date=2012-01-01 name=NewYear | date=2012-12-25 days=2 name=Xmas";
-        QTest::newRow("no field bound") << irregular << "other" << "";
-        QTest::newRow("bytes the locale's encoding can't read")
-            << QByteArray("name,note\r\nM\xfcller,caf\xe9 ok\r\n") << "name,note"
-            << "name=M\uFFFDller note=caf\uFFFD ok";
-    }
-    void csvImport()
-    {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, fields);
-        QVector<ASAttribute> read;
-        QStringList wanted = fields.split(',');
-        const QString path = TestHome::path() + "/in.csv";
-        QVERIFY(writeFile(path, bytes) && infoImport(read, wanted, path));
-        QTEST(show(read), "records");
     }
 };
 

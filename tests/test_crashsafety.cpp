@@ -9,9 +9,6 @@
 #include <QThread>
 
 #include "fixture.h"
-#include "mainwindow/rosteramain.h"
-#include "mainwindow/toolbar.h"
-#include "persistence/databasefunc.h"
 #include "ui_rosteramain.h"
 
 static const QDate kMonday(2026, 3, 2);
@@ -82,11 +79,9 @@ static int child(const QString &kind, const QString &file)
 
 static QString tableOf(const QString &kind)
 {
-    static const QMap<QString, QString> tables{{"group", "t_groupinfo"},     {"staff", "t_staffinfo"},
-                                               {"shift", "t_shiftinfo"},     {"row", "t_permanentschedule"},
-                                               {"holiday", "t_holidayinfo"}, {"vacation", "t_vacationinfo"},
-                                               {"lock", "t_lock_employee"}};
-    return tables.value(kind, "t_schedule");
+    return QStringList{"t_groupinfo", "t_staffinfo", "t_shiftinfo", "t_permanentschedule", "t_holidayinfo",
+                       "t_vacationinfo", "t_lock_employee"}
+        .value(kKinds.indexOf(kind), "t_schedule");
 }
 
 class TestCrashSafety : public QObject

@@ -8,14 +8,11 @@
 #include <csignal>
 #include <sys/resource.h>
 
-#include "core/apppaths.h"
 #include "core/csvfile.h"
 #include "fixture.h"
-#include "mainwindow/appstart.h"
-#include "mainwindow/rosteramain.h"
-#include "persistence/databasefunc.h"
-#include "reports/reports.h"
 #include "ui_rosteramain.h"
+#include "mainwindow/appstart.h"
+#include "reports/reports.h"
 
 // While it lives, no file of this process may grow beyond the given size: a full disk, as
 // SQLite meets it, without a file system of its own.
@@ -47,7 +44,6 @@ private slots:
         // A write beyond the limit fails with an error instead of ending the process.
         signal(SIGXFSZ, SIG_IGN);
     }
-
     // The program folder has no support folder: new tables start empty and nothing is said.
     void missingTemplates()
     {
@@ -62,7 +58,6 @@ private slots:
         QVERIFY(QDir(getAppDataPath(2)).isEmpty());
         QVERIFY(boxes.texts.isEmpty());
     }
-
     // Another program holds the plan: while it writes, this one reads but its saves wait and
     // fail, keeping both; while it holds the whole file, the plan is not opened at all.
     void lockedByAnotherProgram()
@@ -100,7 +95,6 @@ private slots:
         QCOMPARE(rowsText("SELECT name FROM t_groupinfo ORDER BY 1"), "Mine | Theirs");
         db->db.setConnectOptions();
     }
-
     // No file may grow: each save is refused whole with its message, and the file stays sound.
     void fullDisk()
     {
@@ -122,7 +116,6 @@ private slots:
         QCOMPARE(scheduleTable(), QStringList{"2026-03-02 G S C"});
         delete window;
     }
-
     // A plan of a newer version opens as it stands, with a word that this version may not keep
     // all of it; tables of other columns are read by position and refuse a save.
     void foreignPlans()
@@ -143,7 +136,6 @@ private slots:
         QVERIFY(!db->saveStaffInfo(staff));
         QCOMPARE(rowsText("SELECT id, lname FROM t_staffinfo"), "E1,Bell");
     }
-
     // A configuration written by hand or by accident: wrong types, binary bytes, numbers out of
     // range. The program starts and shows its grid.
     void junkConfiguration()
@@ -167,7 +159,6 @@ private slots:
         delete new Reports(window); // which reads the print settings
         delete window;
     }
-
     void hugeCsv_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -178,7 +169,6 @@ private slots:
         QTest::newRow("one line of 10 MB") << header + "E," + QByteArray(10 << 20, 'x') + ",Bell,G" << 1 << (10 << 20);
         QTest::newRow("NUL bytes") << header + QByteArray(100000, '\0') + "\r\nE,\0\0,Bell,G" << 2 << 100000;
     }
-
     // Read whole, without a fault; what a save of such records meets is the store's matter.
     void hugeCsv()
     {

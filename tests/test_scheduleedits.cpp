@@ -1,14 +1,12 @@
 // Changes to the stored schedule: a cell edited by hand, check and repair, copy and clear.
 #include "fixture.h"
+#include "ui_rosteramain.h"
 #include <QToolTip>
 #include "engine/clearschedulesettings.h"
 #include "engine/copyschedulesettings.h"
 #include "engine/schedulestatus.h"
-#include "mainwindow/rosteramain.h"
-#include "mainwindow/toolbar.h"
 #include "ui_clearschedulesettings.h"
 #include "ui_copyschedulesettings.h"
-#include "ui_rosteramain.h"
 #include "ui_schedulestatus.h"
 using Box = QMessageBox;
 
@@ -17,7 +15,6 @@ static const QString kEnough = "Already assigned enough employees for this shift
 static const QString kAlready = "Already assigned on that day", kCorrect = "Current schedule is correct";
 static const QString kAsk = "Need to allocate staff automatically?";
 static const QString kReplace = "Are you sure to replace existing schedule?";
-static const QString kEmpty = "|Source schedule is empty, continue?";
 // 1 to 4 work in G, 5 and 6 in no group; S of G needs two on weekdays, every other shift one a day.
 static const QString kPlan = "staff 1/G 2/G 3/G 4/G 5/ 6/ | shift S T U | row /S/1;1;1;1;1;1;1 G/S/2;2;2;2;2;0;0 "
                              "G/T/1;1;1;1;1;1;1 H/S/1;1;1;1;1;1;1";
@@ -110,14 +107,12 @@ private slots:
         const QString holiday = "Don't need any employees, that day is during the holidays";
         const QString saveFailed = "Save schedule failed", readFailed = "Get schedule failed";
         row("room on a Saturday", "1", 1, "", "", "T", false, true);
-        row("already in the record", "1", 0, "02/G/S/1;2;3", "", "S", false, true);
         row("enough", "1", 0, "02/G/S/2;3", "", "S", false, true, kEnough);
         row("no row, told before the holiday", "1", 2, "", "", "U", false, true, kNoNeed);
         row("holiday", "1", 2, "", "", "S", false, true, holiday);
         // With several shifts in a cell the first record and the first row read serve all of them.
         row("first record and row serve all", "1", 0, "02/G/S/2 02/G/T/3;4", "", "S\nT", false, true);
         row("swap within need", "G/S", 0, "02/G/S/3;4", "3\n4", "1\n2", false, true);
-        row("more than need", "G/T", 0, "02/G/T/3", "3", "3\n1", false, true, kEnough);
         row("cell behind the record", "G/S", 0, "02/G/S/3;4", "3", "4", false, false, kAlready);
         row("leave and join", "1", 0, "02/G/S/2;1;3;1 02/G/T/1 02/G/U/4", "S\nT", "U", true, true, "",
             "02/G/S/2;3;1 02/G/U/4;1");
@@ -127,10 +122,7 @@ private slots:
         row("new record, nobody needed", "G/S", 1, "", "", "1\n2\n3", true, true, "", "07/G/S/;1;2;3");
         row("duplicate refused", "G/S", 0, "02/G/S/3;4", "3", "4", true, false, kAlready, "02/G/S/3;4");
         row("save fails, removal stays", "1", 0, "02/G/S/1", "S", "T", true, false, saveFailed, "", "INSERT");
-        row("removal fails", "1", 0, "02/G/S/1;2", "S", "", true, false, saveFailed, "02/G/S/1;2", "UPDATE");
         row("read fails", "G/S", 0, "", "", "1", true, false, readFailed, "", "t_schedule");
-        row("read fails, old shifts", "1", 0, "", "S", "", true, false, readFailed, "", "t_schedule");
-        row("read fails, new shifts", "1", 0, "", "", "S", true, false, readFailed, "", "t_schedule");
         row("rules unreadable", "1", 0, "", "", "S", false, true, "", "", "t_permanentschedule");
     }
     void adjust()
@@ -246,76 +238,6 @@ private slots:
         QCOMPARE(boxes.buttons.value(0), Box::Yes | Box::No | Box::Cancel);
         QCOMPARE(boxes.defaults.value(0), Box::Yes);
         QCOMPARE(boxes.icons.value(2), Box::Warning);
-    }
-    // A tip shows after a moment, where one shown at once at the cell's lower left corner would be.
-    void tipAtCell()
-    {
-        const auto tip = [] {
-            for (QWidget *w : QApplication::topLevelWidgets())
-                if (w->inherits("QTipLabel") && w->isVisible())
-                    return w->pos();
-            return QPoint();
-        };
-        QTableWidget *table = window->ui->tableWidget;
-        table->setRowCount(2);
-        table->setColumnCount(2);
-        table->setRowHeight(1, 60);
-        window->show_tip(1, 1, "here");
-        QTRY_COMPARE(QToolTip::text(), "here");
-        const QPoint shown = tip();
-        QToolTip::hideText();
-        QTRY_COMPARE(tip(), QPoint());
-        const QPoint corner(table->columnViewportPosition(1), table->rowViewportPosition(1) + 60);
-        QToolTip::showText(table->mapToGlobal(corner), "here");
-        QCOMPARE(tip(), shown);
-    }
-    // Copies (days > 0) and clears of kSpread by days of March; answers to the first question and to any later one.
-    void copyClear_data()
-    {
-        QTest::addColumn<QString>("group");
-        for (const char *column : {"from", "to", "days"})
-            QTest::addColumn<int>(column);
-        for (const char *column : {"answers", "asked", "after", "fault"})
-            QTest::addColumn<QString>(column);
-        const auto row = [](const char *tag, const QString &group, int from, int to, int days, const QString &answers,
-                            const QString &asked, const QString &after, const QString &fault = {}) {
-            QTest::newRow(tag) << group << from << to << days << answers << asked << after << fault;
-        };
-        row("right after", "", 2, 9, 7, "Y", kReplace, "02/H/S/h 08/G/S/b 09/H/S/h 15/G/S/b 16/G/S/e");
-        row("backwards, right before", "", 9, 2, 7, "Y", kReplace, "02/G/S/c 03/H/S/d 09/G/S/c 10/H/S/d 16/G/S/e");
-        // Overlapping spans end the copy without a word.
-        row("same date", "", 11, 11, 1, "Y", kReplace, kSpread);
-        row("last day shared", "", 3, 9, 7, "Y", kReplace, kSpread);
-        row("backwards, last day shared", "", 9, 3, 7, "Y", kReplace, kSpread);
-        row("empty source, stop", "", 23, 9, 7, "YN", kReplace + kEmpty, kSpread);
-        row("empty source clears", "", 23, 9, 7, "YY", kReplace + kEmpty, "02/H/S/h 08/G/S/b 16/G/S/e");
-        row("one group", "H", 2, 9, 7, "Y", kReplace, "02/H/S/h 08/G/S/b 09/G/S/c 09/H/S/h 16/G/S/e");
-        row("save fails, target cleared", "", 2, 9, 7, "Y", kReplace + "|Copy schedule of previous week failed!",
-            "02/H/S/h 08/G/S/b 16/G/S/e", "INSERT");
-        row("clear one group", "H", 1, 10, 0, "Y", clearing(1, 10), "08/G/S/b 09/G/S/c 16/G/S/e");
-        row("clear fails", "", 1, 31, 0, "Y", clearing(1, 31) + "|Clear schedule failed!", kSpread, "t_schedule");
-    }
-    void copyClear()
-    {
-        QFETCH(QString, group);
-        QFETCH(int, from);
-        QFETCH(int, to);
-        QFETCH(int, days);
-        QFETCH(QString, answers);
-        QFETCH(QString, fault);
-        QVERIFY(writeMarch("", kSpread));
-        setView(window, group.isEmpty() ? 0 : 1, group);
-        Boxes boxes({answers.startsWith('Y') ? Box::Yes : Box::No}, answers.endsWith('Y') ? Box::Yes : Box::No);
-        breakFile(fault);
-        if (days)
-            window->copySchedule(QDate(2026, 3, from), QDate(2026, 3, to), days, true);
-        else
-            window->clearSchedule(QDate(2026, 3, from), QDate(2026, 3, to));
-        mend();
-        QTEST(boxes.texts.join('|'), "asked");
-        QCOMPARE(boxes.titles.join(""), "");
-        QCOMPARE(boxes.defaults.value(0), Box::No);
-        QTEST(march(), "after");
     }
     void commands()
     {

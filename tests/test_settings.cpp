@@ -1,20 +1,12 @@
 // The Settings dialog: how it opens, its options and what they change, and the exception lists.
 #include "fixture.h"
+#include "ui_rosteramain.h"
 
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QSettings>
 
-#include "core/apppaths.h"
-#include "mainwindow/rosteramain.h"
-#include "mainwindow/toolbar.h"
-#include "masterdata/lockemployee.h"
+#include "masterdata/recordeditor.h"
 #include "masterdata/settings.h"
-#include "masterdata/staffsselect.h"
-#include "masterdata/vacationsettings.h"
-#include "masterdata/workweekselect.h"
-#include "ui_rosteramain.h"
 #include "ui_settings.h"
 #include "ui_toolbar.h"
 
@@ -107,51 +99,6 @@ private slots:
         QTEST(QString("%1 %2 %3 | %4").arg(shown, window->cycleDates.value(0).toString("MM-dd"))
                   .arg(window->cycleDates.size()).arg(storedOptions()), "result");
     }
-    // "Employee lock schedule" makes shifts customers: the dialog's words follow at once, the window
-    // once it has closed. The 24-hour box reads the shifts again, dropping a row not saved. The
-    // work-week picker refuses no day, ignores numbers beyond 1 to 7, and is taken when accepted.
-    void optionControls()
-    {
-        QFile::remove(getAppDataPath(0));
-        setView(window, 0);
-        window->toolBar->setViewType(1);
-        window->settingsChange();
-        QStringList seen = window->rowLabels;
-        Boxes boxes;
-        whenDialogOpens<Settings>([&seen](Settings *dialog) {
-            Ui_Settings *ui = dialog->ui;
-            ui->ck_showFrom->click(); // on by default: the click disables the week start's list
-            seen << (ui->cmb_showFrom->isEnabled() ? "on" : "off");
-            for (int i = 0; i < 3; ++i) {
-                seen << ui->tabWidget->tabText(2) + "/" + ui->shiftTable->horizontalHeaderItem(1)->text() + "/"
-                            + ui->permanentScheduleTable->horizontalHeaderItem(1)->text() + "/"
-                            + (ui->permanentScheduleTable->isColumnHidden(2) ? "hidden" : "shown");
-                ui->ck_employeeLockSchedule->click();
-            }
-            for (int column = 0; column < 3; ++column) // widths a translation may change (the last stretches)
-                seen << QString::number(ui->permanentScheduleTable->columnWidth(column));
-            ui->btn_shiftAdd->click();
-            ui->ck_use24hour->click();
-            seen << QString::number(ui->shiftTable->rowCount()) + " " + ui->shiftTable->item(0, 2)->text();
-            whenDialogOpens<WorkWeekSelect>([](WorkWeekSelect *picker) {
-                for (QCheckBox *day : picker->findChildren<QCheckBox *>())
-                    day->setChecked(false);
-                QTest::keyClick(picker, Qt::Key_Return);
-                picker->setSel("3,,9,x,1,7,0");
-                QTest::keyClick(picker, Qt::Key_Return);
-            });
-            ui->btn_workWeek->click();
-            dialog->reject();
-        });
-        window->ui->actionShift_Settings->trigger();
-        QCOMPARE(seen + window->rowLabels + boxes.texts,
-                 QStringList({"G--S", "H--T", "off", "Shifts/Abbreviation/Shift/hidden",
-                              "Customers/Cust ID/Customer/shown", "Shifts/Abbreviation/Shift/hidden", "90", "90", "150",
-                              "2 08:00", "S", "T",
-                              "Please select one day at least."}));
-        QVERIFY(storedOptions().endsWith("work week=1,3,7") && !window->ui->statusBar->isVisible()
-                && boxes.icons == QList<QMessageBox::Icon>({QMessageBox::Information}));
-    }
     // Per list: Edit without a current item opens nothing; Add shows the defaults and refuses OK on
     // an empty record; Save is refused for a duplicate key; Remove, Edit by a double click and a tick
     // wait for Save. An import replaces the list: "valid" not a number unticks, no "valid" ticks.
@@ -233,37 +180,6 @@ private slots:
         press("import");
         press("save");
         QTEST((result << items(list) << table(name)).join(' '), "result");
-    }
-    // The picker drops down under its button and is loaded once; ticks add and drop names, a choice replaces.
-    void picker()
-    {
-        QVERIFY(writePlan("staff A/G B/G"));
-        VacationSettings vacation;
-        LockEmployee lock;
-        QStringList seen; // per opening: the items and the current row, then the field after each click
-        for (RecordEditor *editor : std::initializer_list<RecordEditor *>{&vacation, &lock}) {
-            editor->show();
-            auto *button = editor->findChild<QPushButton *>("btn_selStaff");
-            auto *field = editor->findChild<QLineEdit *>("ed_staffids");
-            field->setText("B");
-            for (int opening : {1, 2}) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                const QPoint corner = button->mapToGlobal(QPoint(0, button->height())); // give or take a frame
-                QVERIFY((editor->picker->pos() - corner).manhattanLength() <= 4);
-                auto *names = editor->picker->findChild<QListWidget *>();
-                seen << QString("%1:%2/%3").arg(opening).arg(items(names)).arg(names->currentRow());
-                for (QListWidgetItem *item : {names->item(0), names->item(1)}) {
-                    if (editor == &lock)
-                        names->setCurrentItem(item);
-                    else
-                        item->setCheckState(Qt::CheckState(2 - item->checkState()));
-                    seen << field->text();
-                }
-                editor->picker->close();
-                field->setText("A;B"); // what a new load would show
-            }
-        }
-        QCOMPARE(seen.join(' '), "1:A,B+/-1 A;B A 2:A+,B/-1  B 1:A,B/1 A B 2:A,B/1 A B");
     }
 };
 

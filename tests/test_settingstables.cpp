@@ -4,13 +4,9 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QSpinBox>
 #include <QTableWidget>
 
-#include "core/apppaths.h"
-#include "engine/workdateassign.h"
 #include "masterdata/settings.h"
-#include "persistence/databasefunc.h"
 
 static const QStringList kKinds{"group", "staff", "shift", "permanentSchedule"};
 static const QStringList kTables{"t_groupinfo", "t_staffinfo", "t_shiftinfo", "t_permanentschedule", "t_holidayinfo",
@@ -48,34 +44,6 @@ class TestSettingsTables : public QObject
         for (int c = 0; c < texts.split('/').size(); ++c)
             table(tab)->item(table(tab)->rowCount() - 1, c)->setText(texts.split('/')[c]);
     }
-    // Edits a cell to value; answers a combo box's items, or the value before (a time as "hh:mm"). A rule
-    // takes value as Monday's number and is accepted, or cancelled without one; the answer ends in the rule loaded.
-    QString edit(int tab, int row, int column, const QString &value)
-    {
-        QString loaded;
-        if (tab == 3 && column == 3)
-            whenDialogOpens<WorkDateAssign>([&loaded, value](WorkDateAssign *editor) {
-                loaded = " " + editor->getStuffNum();
-                editor->staffNumBoxes[0]->setValue(value.toInt());
-                value.isEmpty() ? editor->reject() : editor->accept();
-            });
-        const QModelIndex index = table(tab)->model()->index(row, column);
-        table(tab)->edit(index);
-        QWidget *editor = table(tab)->indexWidget(index);
-        if (!editor)
-            return "no editor" + loaded;
-        auto *box = qobject_cast<QComboBox *>(editor);
-        QStringList items;
-        for (int i = 0; box && i < box->count(); ++i)
-            items << box->itemText(i);
-        const QMetaProperty property = editor->metaObject()->userProperty();
-        const QString old = property.read(editor).toString().left(5);
-        property.write(editor, value);
-        QTest::keyClick(editor, Qt::Key_Return);
-        QCoreApplication::processEvents(); // the commit is queued
-        return box ? items.join(',') : old;
-    }
-
 private slots:
     void initTestCase() { QVERIFY(getDB()->openDB(QString())); }
     void init()
@@ -176,11 +144,8 @@ private slots:
         QTest::newRow("shift of a line") << 3 << QStringList{"1", "1", "S", "S,T", "<None>,S,<None>,2;2;2;2;2;2;2"};
         QTest::newRow("employee of the group") << 3
             << QStringList{"0", "2", "A", "<None>,A", "G,S,A,1;1;1;1;1;1;1", "ck_employeeLockSchedule"};
-        QTest::newRow("employee of no group") << 3
-            << QStringList{"1", "2", "B", "<None>,B", "<None>,T,B,2;2;2;2;2;2;2", "ck_employeeLockSchedule"};
         QTest::newRow("name of a shift") << 2 << QStringList{"0", "0", "Early", "S", "Early,S,08:00 AM,04:00 PM,08:00"};
         QTest::newRow("length") << 2 << QStringList{"1", "4", "08:00", "01:00", "T,T,10:00 PM,06:00 AM,08:00"};
-        QTest::newRow("start") << 2 << QStringList{"1", "2", "04:00", "22:00", "T,T,04:00 AM,11:00 PM,19:00"};
         QTest::newRow("end, 24 hours") << 2
             << QStringList{"1", "3", "03:00", "23:00", "T,T,22:00,03:00,05:00", "ck_use24hour"};
     }
@@ -190,40 +155,22 @@ private slots:
         QFETCH(QStringList, f);
         if (f.size() > 5)
             dialog->findChild<QAbstractButton *>(f[5])->click();
-        QCOMPARE(edit(tab, f[0].toInt(), f[1].toInt(), f[2]), f[3]);
-        QCOMPARE(cells(table(tab)).section('|', f[0].toInt(), f[0].toInt()), f[4]);
-    }
-    // The rules live in a vector beside the rows. An export sorts the vector but not the table, so that later
-    // rules pair with other rows; an import shows the file's rules while the vector keeps the old ones by index,
-    // and Save stores as many rows as it has.
-    void permanentRules()
-    {
-        QCOMPARE(edit(3, 0, 3, ""), "no editor 1;1;1;1;1;1;1");
-        QCOMPARE(edit(3, 0, 3, "3"), "no editor 1;1;1;1;1;1;1");
-        QCOMPARE(cells(table(3)), "G,S,<None>,3;1;1;1;1;1;1|<None>,T,<None>,2;2;2;2;2;2;2");
-        const QString file = TestHome::path() + "/lines.csv";
-        answerFileDialog(file);
-        click(3, "Export");
-        click(3, "Add");
-        table(3)->setCurrentCell(0, 0);
-        click(3, "Delete");
-        table(3)->item(1, 1)->setText("S");
-        QCOMPARE(edit(3, 1, 3, "5"), "no editor 0;0;0;0;0;0;0");
-        QCOMPARE(cells(table(3)), "<None>,T,<None>,2;2;2;2;2;2;2|<None>,S,,5;0;0;0;0;0;0");
-        click(3, "Save");
-        QCOMPARE(cells(table(3)), "<None>,S,<None>,5;0;0;0;0;0;0|<None>,T,<None>,3;1;1;1;1;1;1"); // as stored
-        QVERIFY(writeFile(file, "groupname,shiftname,daystaffnum\r\n"
-                                "X,S,<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>\r\n"
-                                "Y,T,<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>\r\n"
-                                "Z,S,<dt stn='1;;3'/>\r\n"));
-        answerFileDialog(file);
-        click(3, "Import");
-        QCOMPARE(cells(table(3)), "X,S,<None>,From:2026-03-01 To:2026-03-31 Week:5 Day of week:1;2|"
-                                  "Y,T,<None>,Date:2026-03-02 Week:1 Day of week:1|Z,S,<None>,1;;3");
-        // The third row has no element: its rule reads as empty and an accepted one is not kept.
-        QCOMPARE(edit(3, 2, 3, "4") + cells(table(3)).right(5), "no editor 0;0;0;0;0;0;0,1;;3");
-        click(3, "Save");
-        QCOMPARE(cells(table(3)), "X,S,<None>,5;0;0;0;0;0;0|Y,T,<None>,3;1;1;1;1;1;1");
+        const int row = f[0].toInt();
+        const QModelIndex index = table(tab)->model()->index(row, f[1].toInt());
+        table(tab)->edit(index);
+        QWidget *editor = table(tab)->indexWidget(index);
+        QVERIFY(editor);
+        auto *box = qobject_cast<QComboBox *>(editor);
+        QStringList items;
+        for (int i = 0; box && i < box->count(); ++i)
+            items << box->itemText(i);
+        const QMetaProperty property = editor->metaObject()->userProperty();
+        const QString old = property.read(editor).toString().left(5); // a time as "hh:mm"
+        property.write(editor, f[2]);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the commit is queued
+        QCOMPARE(box ? items.join(',') : old, f[3]);
+        QCOMPARE(cells(table(tab)).section('|', row, row), f[4]);
     }
 };
 
