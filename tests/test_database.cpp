@@ -21,11 +21,6 @@ static const QString kNewRule = QString(kCreate[3]).replace(",[employee_name]", 
 static const QString kBadRule =
     QString(kOldRule).replace("[daystaffnum] NTEXT", "[daystaffnum] AS (nosuchfunction(groupname))");
 
-static QString lastDb()
-{
-    return QSettings(getAppDataPath(3) + "/ConfigData/config.ini", QSettings::IniFormat).value("lastdb").toString();
-}
-
 static QByteArray content(const QString &path)
 {
     QFile file(path);
@@ -57,7 +52,7 @@ private slots:
                  kCreate.join(" | ") + " | 1.01");
         // A failed open keeps the file, the caches and "lastdb" as they were, and at start it is said.
         QVERIFY(writePlan("group Only") && !db->openDB(TestHome::file("no/such/x.db"))
-                && lastDb() == TestHome::file("kept.db"));
+                && config().value("lastdb").toString() == TestHome::file("kept.db"));
         config().setValue("lastdb", TestHome::file("no/such/x.db"));
         QVERIFY(!openStartDatabase() && db->getDBName() == TestHome::file("kept.db")
                 && rowsText("SELECT name FROM t_groupinfo") == "Only" && show(db->groups) == "abbreviation=Only name=Only");

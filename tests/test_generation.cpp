@@ -30,7 +30,6 @@ private slots:
         const QString march = "demand <dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>";
         const QString yearEnd = "holiday 2001-12-30/5/1", away = "vacation 9/2026-03-02/10 11;1/2026-03-02/3";
         QTest::newRow("list") << "demand 2;2;2;2;2;10;0" << "2026-03-07" << "10";
-        QTest::newRow("short list") << "demand 2;2;2;2;2" << "2026-03-07" << "0";
         QTest::newRow("empty items dropped") << "demand ;;3" << "2026-03-02" << "3";
         QTest::newRow("negative") << "demand -1;x;4" << "2026-03-02" << "0";
         QTest::newRow("empty asks the day index") << "demand " << "2026-03-08" << "6";

@@ -107,7 +107,6 @@ private slots:
             << "Single Employee Work Hours Report-G" + span + "Bob 24|!Ann";
         QTest::newRow("no person") << 1 << 0 << "<All>" << "" << "=no file|Please select a person";
         QTest::newRow("no person, monthly") << 4 << 0 << "<All>" << "" << "=no file|";
-        QTest::newRow("no report") << -1 << 0 << "<All>" << "Ann" << "=no file|";
         QTest::newRow("nobody in the group: a blank page") << 10 << 1 << "E" << "" << "=\f|";
     }
     void reports()

@@ -4,8 +4,10 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QSpinBox>
 #include <QTableWidget>
 
+#include "engine/workdateassign.h"
 #include "masterdata/settings.h"
 
 static const QStringList kKinds{"group", "staff", "shift", "permanentSchedule"};
@@ -144,7 +146,6 @@ private slots:
         QTest::newRow("shift of a line") << 3 << QStringList{"1", "1", "S", "S,T", "<None>,S,<None>,2;2;2;2;2;2;2"};
         QTest::newRow("employee of the group") << 3
             << QStringList{"0", "2", "A", "<None>,A", "G,S,A,1;1;1;1;1;1;1", "ck_employeeLockSchedule"};
-        QTest::newRow("name of a shift") << 2 << QStringList{"0", "0", "Early", "S", "Early,S,08:00 AM,04:00 PM,08:00"};
         QTest::newRow("length") << 2 << QStringList{"1", "4", "08:00", "01:00", "T,T,10:00 PM,06:00 AM,08:00"};
         QTest::newRow("end, 24 hours") << 2
             << QStringList{"1", "3", "03:00", "23:00", "T,T,22:00,03:00,05:00", "ck_use24hour"};
@@ -171,6 +172,51 @@ private slots:
         QCoreApplication::processEvents(); // the commit is queued
         QCOMPARE(box ? items.join(',') : old, f[3]);
         QCOMPARE(cells(table(tab)).section('|', row, row), f[4]);
+    }
+    // The rules live in a vector beside the rows. An export sorts the vector but not the table, so that later
+    // rules pair with other rows; an import shows the file's rules while the vector keeps the old ones by index,
+    // and Save stores as many rows as it has.
+    void permanentRules()
+    {
+        // A rule opens its own dialog, no editor in the cell: Monday's number set and accepted, or cancelled when
+        // empty. Gives the rule loaded.
+        const auto rule = [this](int row, const QString &monday) {
+            QString loaded = "none";
+            whenDialogOpens<WorkDateAssign>([&loaded, monday](WorkDateAssign *editor) {
+                loaded = editor->getStuffNum();
+                editor->staffNumBoxes[0]->setValue(monday.toInt());
+                monday.isEmpty() ? editor->reject() : editor->accept();
+            });
+            table(3)->edit(table(3)->model()->index(row, 3));
+            return table(3)->indexWidget(table(3)->model()->index(row, 3)) ? "an editor" : loaded;
+        };
+        QCOMPARE(rule(0, ""), "1;1;1;1;1;1;1");
+        QCOMPARE(rule(0, "3"), "1;1;1;1;1;1;1");
+        QCOMPARE(cells(table(3)), "G,S,<None>,3;1;1;1;1;1;1|<None>,T,<None>,2;2;2;2;2;2;2");
+        const QString file = TestHome::path() + "/lines.csv";
+        answerFileDialog(file);
+        click(3, "Export");
+        click(3, "Add");
+        table(3)->setCurrentCell(0, 0);
+        click(3, "Delete");
+        table(3)->item(1, 1)->setText("S");
+        QCOMPARE(rule(1, "5"), "0;0;0;0;0;0;0");
+        QCOMPARE(cells(table(3)), "<None>,T,<None>,2;2;2;2;2;2;2|<None>,S,,5;0;0;0;0;0;0");
+        click(3, "Save");
+        QCOMPARE(cells(table(3)), "<None>,S,<None>,5;0;0;0;0;0;0|<None>,T,<None>,3;1;1;1;1;1;1"); // as stored
+        QVERIFY(writeFile(file, "groupname,shiftname,daystaffnum\r\n"
+                                "X,S,<dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>\r\n"
+                                "Y,T,<dt t='1' sdt='2026-03-02' edt='2026-03-02' week='1' dayweek='1'/>\r\n"
+                                "Z,S,<dt stn='1;;3'/>\r\n"));
+        answerFileDialog(file);
+        click(3, "Import");
+        QCOMPARE(cells(table(3)), "X,S,<None>,From:2026-03-01 To:2026-03-31 Week:5 Day of week:1;2|"
+                                  "Y,T,<None>,Date:2026-03-02 Week:1 Day of week:1|Z,S,<None>,1;;3");
+        // The third row has no element: its rule reads as empty and an accepted one is not kept.
+        QCOMPARE(rule(2, "4"), "0;0;0;0;0;0;0");
+        QCOMPARE(cells(table(3)).right(5), ",1;;3");
+        click(3, "Save");
+        QCOMPARE(cells(table(3)), "X,S,<None>,5;0;0;0;0;0;0|Y,T,<None>,3;1;1;1;1;1;1");
     }
 };
 

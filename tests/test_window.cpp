@@ -1,21 +1,46 @@
-// The main window over a real file: its language menu and the database commands.
+// The main window over a real file: its language menu, the database commands and the update check at start.
 #include "fixture.h"
 #include "ui_rosteramain.h"
 
 #include <QActionGroup>
+#include <QtNetwork>
+#include <sys/stat.h>
 
 #include "mainwindow/appstart.h"
+#include "ui_softupdate.h"
+#include "update/softupdate.h"
+
+static QByteArray http(const QByteArray &body)
+{
+    return "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n"
+           + body;
+}
 
 class TestWindow : public QObject
 {
     Q_OBJECT
     RosteraMain *window = nullptr;
     QString defaultDb;
+    // A loopback update host: each path gets its canned answer; a path without one is closed unanswered.
+    QTcpServer host;
+    QMap<QByteArray, QByteArray> answers;
 private slots:
+    // The program's version is the date of its file, here 9 May 2013, so 3.5.9.
     void initTestCase()
     {
         QVERIFY(getDB()->openDB(QString()));
         defaultDb = getDB()->getDBName();
+        const timespec date = {QDateTime(QDate(2013, 5, 9), QTime(12, 0)).toSecsSinceEpoch(), 0};
+        const timespec dates[] = {date, date};
+        QVERIFY(utimensat(0, QFile::encodeName(QCoreApplication::applicationFilePath()), dates, 0) == 0);
+        QVERIFY(host.listen(QHostAddress::LocalHost));
+        connect(&host, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *socket = host.nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+                const QByteArray answer = answers.value(socket->readAll().split(' ').value(1));
+                answer.isEmpty() ? socket->close() : void(socket->write(answer));
+            });
+        });
     }
     // A fresh configuration per test.
     void init()
@@ -79,6 +104,20 @@ private slots:
         QCOMPARE(window->windowTitle() + " " + window->rowLabels.join(",") + " " + config().value("lastdb").toString(),
                  "Rostera-my Solo--Z1 " + getAppDataPath(1) + "/my.copy.db");
         QCOMPARE(boxes.texts.size(), 3);
+    }
+    // With the option unset (on), a newer version opens the dialog, whose check box turns the option off.
+    void autoUpdate()
+    {
+        answers = {{SoftUpdate::versionFile, http("[4.1.1]")}};
+        SoftUpdate::server = QString("http://127.0.0.1:%1").arg(host.serverPort());
+        config().remove("auto update");
+        whenDialogOpens<SoftUpdate>([](SoftUpdate *dialog) {
+            QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton);
+            dialog->reject();
+        });
+        window->checkUpdate();
+        QTRY_COMPARE(config().value("auto update"), QVariant(false));
+        SoftUpdate::server = "http://127.0.0.1:1";
     }
 };
 
