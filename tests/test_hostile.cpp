@@ -144,7 +144,7 @@ private slots:
         // "\\0" stands for a NUL byte, which a literal would end at.
         QByteArray junk = "language=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\x4junk)\ncolumns=!!not base64\x01\xfe\n"
                           "auto%20update=@Rect(1 2 3 4)\n[Options]\ncycle%20days=2000000000\n"
-                          "show%20from%20week=\x02\x03\nwork%20week=\x01\xff,9,x\nuse%2024h=@Size(1 2)\n"
+                          "show%20from%20week=\x02\x03\nwork%20week=\x01\xff,8,x\nuse%2024h=@Size(1 2)\n"
                           "[print%20settings]\npage%20margins=yes\n"
                           "print%20configure=<report><type0 title=\"\\0\x01\"\n";
         junk.replace("\\0", QByteArray(1, '\0'));

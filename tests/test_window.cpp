@@ -10,12 +10,6 @@
 #include "ui_softupdate.h"
 #include "update/softupdate.h"
 
-static QByteArray http(const QByteArray &body)
-{
-    return "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n"
-           + body;
-}
-
 class TestWindow : public QObject
 {
     Q_OBJECT
@@ -105,18 +99,24 @@ private slots:
                  "Rostera-my Solo--Z1 " + getAppDataPath(1) + "/my.copy.db");
         QCOMPARE(boxes.texts.size(), 3);
     }
-    // With the option unset (on), a newer version opens the dialog, whose check box turns the option off.
+    // With the option unset (on), a newer version opens the dialog, whose check box turns the option off and
+    // whose Close button closes it.
     void autoUpdate()
     {
-        answers = {{SoftUpdate::versionFile, http("[4.1.1]")}};
+        answers = {{SoftUpdate::versionFile,
+                    "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 7\r\n\r\n[4.1.1]"}};
         SoftUpdate::server = QString("http://127.0.0.1:%1").arg(host.serverPort());
         config().remove("auto update");
-        whenDialogOpens<SoftUpdate>([](SoftUpdate *dialog) {
+        bool closed = false;
+        whenDialogOpens<SoftUpdate>([&closed](SoftUpdate *dialog) {
             QTest::mouseClick(dialog->ui->ck_autoDetect, Qt::LeftButton);
-            dialog->reject();
+            QTest::mouseClick(dialog->ui->btn_close, Qt::LeftButton);
+            closed = !dialog->isVisible();
+            dialog->reject(); // where the button failed, so that the test goes on
         });
         window->checkUpdate();
         QTRY_COMPARE(config().value("auto update"), QVariant(false));
+        QVERIFY(closed);
         SoftUpdate::server = "http://127.0.0.1:1";
     }
 };
