@@ -130,9 +130,10 @@ private slots:
             seen << count;
             getDB()->closeDB();
         }
-        // The kills met both contents, so they fell inside the saves' runs and not before them. (A generation is
-        // rarely caught between its delete and its save.)
-        QVERIFY2(kind == "generation" || (seen.removeDuplicates() < 24 && seen.size() >= 2),
+        // The kills met both contents, so they fell inside the saves' runs and not before them. (Generation and copy
+        // write the same content each round: only a kill between their delete and their save, rare on a fast disk,
+        // shows another.)
+        QVERIFY2(kind == "generation" || kind == "copy" || (seen.removeDuplicates() < 24 && seen.size() >= 2),
                  qPrintable(seen.join(' ')));
     }
 };
