@@ -93,6 +93,19 @@ private:
     QTimer m_timer;
 };
 
+// Columns of one type for a _data() function, and the current row's value of a column, for values used once.
+template <typename T = QString>
+void addColumns(std::initializer_list<const char *> names)
+{
+    for (const char *name : names)
+        QTest::addColumn<T>(name);
+}
+template <typename T = QString>
+T field(const char *name)
+{
+    return *static_cast<T *>(QTest::qData(name, QMetaType::fromType<T>().id()));
+}
+
 // Runs action on the first visible dialog of type T once it is open (for modal dialogs).
 template <typename T>
 void whenDialogOpens(const std::function<void(T *)> &action)

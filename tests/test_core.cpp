@@ -54,8 +54,7 @@ private slots:
     // Each row calls a helper on each of its inputs ("a" or "a/b") and lists the answers.
     void helpers_data()
     {
-        for (const char *column : {"call", "inputs", "answers"})
-            QTest::addColumn<QString>(column);
+        addColumns({"call", "inputs", "answers"});
         QTest::newRow("week days, Error outside 1 to 7") << "getWeekDes" << "0,1,7,8" << "Error,Monday,Sunday,Error";
         QTest::newRow("text positions: any case, first, none") << "getStringPos" << "ABC,X,ab" << "0,2,-1";
         QTest::newRow("versions: more parts win, else part by part as numbers")
@@ -75,13 +74,12 @@ private slots:
     void helpers()
     {
         QFETCH(QString, call);
-        QFETCH(QString, inputs);
         getDB()->shifts =
             planRecords("shift", "Night/N/22:00/06:00 Day//08:00/16:00 Same/S/08:00/08:00 Night/N2/23:30/00:15");
         getDB()->groups = planRecords("group", "Kitchen/K");
         calcShiftLength();
         QStringList got;
-        for (const QString &input : inputs.split(',')) {
+        for (const QString &input : field("inputs").split(',')) {
             const QString a = input.section('/', 0, 0), b = input.section('/', 1);
             ASAttribute shift = record({{"abbreviation", "kept"}});
             const bool found = call == "getShiftByName" && getShiftByName(a, shift);

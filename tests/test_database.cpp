@@ -108,8 +108,7 @@ private slots:
     void upgrade_data()
     {
         QTest::addColumn<QStringList>("shape");
-        QTest::addColumn<QString>("warning");
-        QTest::addColumn<QString>("rule");
+        addColumns({"warning", "rule"});
         const QStringList old = {"DROP TABLE t_permanentschedule", kOldRule,
                                  "INSERT INTO t_permanentschedule VALUES ('N','Day','1;0'), ('S','Night','<dt t=\"0\"/>')",
                                  "DELETE FROM t_version"};
@@ -124,11 +123,10 @@ private slots:
     }
     void upgrade()
     {
-        QFETCH(QStringList, shape);
         QFETCH(QString, warning);
         QFETCH(QString, rule);
         QVERIFY(db->openDB(TestHome::file("upgrade.db")) && writePlan("group Own"));
-        for (const QString &sql : shape)
+        for (const QString &sql : field<QStringList>("shape"))
             QVERIFY2(rows(sql).isEmpty(), qPrintable(sql));
         QVERIFY(db->openDB(TestHome::file("between.db")) && db->openDB(TestHome::file("upgrade.db")));
         QCOMPARE(boxes.texts, QStringList(warning.isEmpty() ? 0 : 1, warning));

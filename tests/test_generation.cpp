@@ -6,10 +6,6 @@
 #include "engine/workdateassign.h"
 
 static const QDate kMonday(2026, 3, 2);
-static QString field(const char *name)
-{
-    return *static_cast<QString *>(QTest::qData(name, QMetaType::QString));
-}
 static bool plan(QString text) { return writePlan(text.replace("daily", "1;1;1;1;1;1;1")); }
 // The schedule table on one line, dates of March 2026 as the day alone.
 static QString table() { return scheduleTable().join(',').remove("2026-03-"); }
@@ -25,8 +21,7 @@ private slots:
     // count, whole shares, demand, extras, lap).
     void rules_data()
     {
-        for (const char *column : {"subject", "date", "answer"})
-            QTest::addColumn<QString>(column);
+        addColumns({"subject", "date", "answer"});
         const QString march = "demand <dt t='1' sdt='2026-03-01' edt='2026-03-31' week='5' dayweek='1;2'/>";
         const QString yearEnd = "holiday 2001-12-30/5/1", away = "vacation 9/2026-03-02/10 11;1/2026-03-02/3";
         QTest::newRow("list") << "demand 2;2;2;2;2;10;0" << "2026-03-07" << "10";
@@ -79,8 +74,7 @@ private slots:
     // counters and order.
     void run_data()
     {
-        for (const char *column : {"plan", "days", "flags", "draws", "table", "stats"})
-            QTest::addColumn<QString>(column);
+        addColumns({"plan", "days", "flags", "draws", "table", "stats"});
         const QString abc = "staff A/G B/G C/G | row G/S/daily";
         const QString apart = "staff A/G B/G C/H | row G/S/daily H/S/daily G/T/daily";
         const QString untouched = "staff A/G | row G/S/1;0;0;0;0;0;0 | schedule 2026-03-02/G/S/A 2026-03-02/G/T/A "

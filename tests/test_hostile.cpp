@@ -162,8 +162,7 @@ private slots:
     void hugeCsv_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<int>("records");
-        QTest::addColumn<int>("longest");
+        addColumns<int>({"records", "longest"});
         const QByteArray header = "id,fname,lname,groupname\r\n";
         QTest::newRow("100,000 lines") << header + QByteArray("E,Ann,Bell,G\r\n").repeated(100000) << 100000 << 4;
         QTest::newRow("one line of 10 MB") << header + "E," + QByteArray(10 << 20, 'x') + ",Bell,G" << 1 << (10 << 20);
@@ -172,19 +171,16 @@ private slots:
     // Read whole, without a fault; what a save of such records meets is the store's matter.
     void hugeCsv()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(int, records);
-        QFETCH(int, longest);
-        QVERIFY(writeFile(TestHome::file("big.csv"), content));
+        QVERIFY(writeFile(TestHome::file("big.csv"), field<QByteArray>("content")));
         QVector<ASAttribute> read;
         QStringList keys = {"id", "fname", "lname", "groupname"};
         QVERIFY(infoImport(read, keys, TestHome::file("big.csv")));
-        QCOMPARE(read.size(), records);
+        QCOMPARE(read.size(), field<int>("records"));
         int longestRead = 0;
         for (const ASAttribute &record : read)
             for (const QString &value : record.values())
                 longestRead = qMax(longestRead, int(value.size()));
-        QCOMPARE(longestRead, longest);
+        QCOMPARE(longestRead, field<int>("longest"));
     }
 };
 

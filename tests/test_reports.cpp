@@ -86,8 +86,8 @@ private slots:
     // "<All>" prints the employees without a group first, then each group.
     void reports_data()
     {
-        QTest::addColumn<int>("row"), QTest::addColumn<int>("pages"), QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("person"), QTest::addColumn<QString>("texts");
+        addColumns<int>({"row", "pages"});
+        addColumns({"group", "person", "texts"});
         const QString week = " 03/02/2026-03/08/2026|", month = " 03/01/2026-03/31/2026|";
         const QString span = " 03/02/2026-04/10/2026|";
         QTest::newRow("0") << 0 << 3 << "<All>" << ""
@@ -111,14 +111,11 @@ private slots:
     }
     void reports()
     {
-        QFETCH(int, row);
-        QFETCH(QString, group);
-        QFETCH(QString, person);
         QFETCH(QString, texts);
         Reports dialog;
         dialog.ui->date_from->setDate({2026, 3, 2});
         dialog.ui->date_to->setDate({2026, 4, 10});
-        const QString text = print(dialog, row, group, person);
+        const QString text = print(dialog, field<int>("row"), field("group"), field("person"));
         qsizetype at = 0;
         QTEST(int(text.count('\f')), "pages");
         for (const QString &item : texts.split('|', Qt::SkipEmptyParts))
@@ -158,8 +155,11 @@ private slots:
     // Lines to show, "!" before one not to show, "=" before a word to print exactly once; pages 0: more than one.
     void pages_data()
     {
-        QTest::addColumn<int>("kind"), QTest::addColumn<QString>("options"), QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QString>("plan"), QTest::addColumn<int>("pages");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QStringList>("lines");
+        QTest::addColumn<QString>("plan");
+        QTest::addColumn<int>("pages");
         const QString days = "Monday Tuesday Wednesday Thursday Friday", week = days + " Saturday Sunday";
         const auto row = [](const char *tag, int kind, const QString &options, const QStringList &lines,
                             const QString &plan = kPlan, int pages = 1) {
@@ -209,13 +209,10 @@ private slots:
     }
     void pages()
     {
-        QFETCH(int, kind);
-        QFETCH(QString, options);
         QFETCH(QStringList, lines);
-        QFETCH(QString, plan);
         QFETCH(int, pages);
-        QVERIFY(writePlan(plan));
-        const QList<QStringList> text = runReport(kind, options);
+        QVERIFY(writePlan(field("plan")));
+        const QList<QStringList> text = runReport(field<int>("kind"), field("options"));
         QVERIFY(pages ? text.size() == pages : text.size() > 1);
         QStringList all;
         // Each page of a continued report has a body and its number (maybe beside a row run over the footer).

@@ -96,14 +96,11 @@ private slots:
     // "G/S": S of G by schedule.
     void adjust_data()
     {
-        QTest::addColumn<QString>("row");
+        addColumns({"row"});
         QTest::addColumn<int>("col");
-        for (const char *column : {"stored", "cell", "value"})
-            QTest::addColumn<QString>(column);
-        QTest::addColumn<bool>("commit");
-        QTest::addColumn<bool>("answer");
-        for (const char *column : {"tip", "after", "fault"})
-            QTest::addColumn<QString>(column);
+        addColumns({"stored", "cell", "value"});
+        addColumns<bool>({"commit", "answer"});
+        addColumns({"tip", "after", "fault"});
         const auto row = [](const char *tag, const QString &row, int col, const QString &stored, const QString &cell,
                             const QString &value, bool commit, bool answer, const QString &tip = {},
                             const QString &after = {}, const QString &fault = {}) {
@@ -133,11 +130,7 @@ private slots:
         QFETCH(QString, row);
         QFETCH(int, col);
         QFETCH(QString, stored);
-        QFETCH(QString, cell);
-        QFETCH(QString, value);
         QFETCH(bool, commit);
-        QFETCH(QString, after);
-        QFETCH(QString, fault);
         QVERIFY(writeMarch(kPlan + " | holiday 2026-03-04", stored));
         const bool byShift = row.contains('/');
         window->toolBar->setViewType(byShift);
@@ -148,21 +141,19 @@ private slots:
         QTableWidget *table = window->ui->tableWidget;
         table->setRowCount(1);
         table->setColumnCount(3);
-        table->model()->setData(table->model()->index(0, col), cell, Qt::UserRole);
-        breakFile(fault);
-        const bool answered = window->adjustScheduleCommit(0, col, value, commit);
+        table->model()->setData(table->model()->index(0, col), field("cell"), Qt::UserRole);
+        breakFile(field("fault"));
+        const bool answered = window->adjustScheduleCommit(0, col, field("value"), commit);
         mend();
         QTEST(answered, "answer");
         QTEST(window->tipText, "tip");
-        QCOMPARE(march(), commit ? after : stored);
+        QCOMPARE(march(), commit ? field("after") : stored);
     }
     void check_data()
     {
-        for (const char *column : {"extra", "stored", "days", "group"})
-            QTest::addColumn<QString>(column);
+        addColumns({"extra", "stored", "days", "group"});
         QTest::addColumn<bool>("repair");
-        QTest::addColumn<QString>("messages");
-        QTest::addColumn<QString>("after");
+        addColumns({"messages", "after"});
         QTest::newRow("every fault")
             << "| vacation 2/2026-03-03"
             << "02//S/5;6 02/G/S/9;1 02/G/T/1 02/G/U/9 03/G/S/2;3;1 03/G/T/3 07/G/S/1 07/G/T/2" << "02 03 07" << ""
@@ -184,23 +175,19 @@ private slots:
     }
     void check()
     {
-        QFETCH(QString, extra);
         QFETCH(QString, stored);
-        QFETCH(QString, days);
         QFETCH(QString, group);
         QFETCH(bool, repair);
-        QFETCH(QString, messages);
-        QFETCH(QString, after);
-        QVERIFY(writeMarch(kPlan + extra, stored));
+        QVERIFY(writeMarch(kPlan + field("extra"), stored));
         setView(window, group.isEmpty() ? 0 : 1, group);
         window->cycleDates.clear();
-        for (const QString &day : days.split(' '))
+        for (const QString &day : field("days").split(' '))
             window->cycleDates << QDate(2026, 3, day.toInt());
         QStringList expected;
-        for (const QString &code : messages.split(',', Qt::SkipEmptyParts))
+        for (const QString &code : field("messages").split(',', Qt::SkipEmptyParts))
             expected << message(code);
         QCOMPARE(window->checkSchedule(repair), expected);
-        QCOMPARE(march(), repair ? after : stored);
+        QCOMPARE(march(), repair ? field("after") : stored);
     }
     void statusPanel()
     {
@@ -285,8 +272,7 @@ private slots:
         // The cell (option on, view, row label with the group mark left out, column), the item chosen or the
         // values ticked and the key, t_schedule and the cell afterwards, the tip, a change of the file after the
         // grid was drawn.
-        for (const char *column : {"cell", "action", "stored", "shown", "tip", "behind"})
-            QTest::addColumn<QString>(column);
+        addColumns({"cell", "action", "stored", "shown", "tip", "behind"});
         // Shifts Sx and Tx are shown as S and T; a cell shows "text|value" afterwards.
         const QString before = "2026-03-02 G Sx 1";
         QTest::newRow("shift for an employee")
@@ -309,11 +295,10 @@ private slots:
     }
     void edit()
     {
-        QFETCH(QString, cell);
         QFETCH(QString, action);
         QFETCH(QString, tip);
         QFETCH(QString, behind);
-        const QStringList f = cell.split(' ');
+        const QStringList f = field("cell").split(' ');
         QVERIFY(writePlan("group G H K | staff 1/G 2/G 3/G 4/G 5/G 6/G 9/K | shift Sx/S Tx/T"
                           " | row G/Sx/1;1;1;1;1;0;0 G/Tx/1;1;1;1;1;1;1 H/Sx/1 | schedule 2026-03-02/G/Sx/1"));
         setOption("employee lock schedule", f[0] == "1");

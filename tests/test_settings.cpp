@@ -81,10 +81,9 @@ private slots:
     }
     void options()
     {
-        QFETCH(int, command);
-        QFETCH(QString, stored);
+        const int command = field<int>("command");
         QFile::remove(getAppDataPath(0));
-        for (const QString &pair : stored.split(';', Qt::SkipEmptyParts))
+        for (const QString &pair : field("stored").split(';', Qt::SkipEmptyParts))
             setOption(pair.section('=', 0, 0), pair.section('=', 1));
         QString shown;
         whenDialogOpens<Settings>([&shown](Settings *dialog) {
