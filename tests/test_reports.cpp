@@ -67,7 +67,8 @@ class TestReports : public QObject
         if (seen.isEmpty()) { // nobody asked: the answer goes to a spare dialog
             QFileDialog spare(nullptr, {}, gone);
             spare.show();
-            QTest::qWaitFor([&spare] { return !spare.isVisible(); });
+            if (!QTest::qWaitFor([&spare] { return !spare.isVisible(); }))
+                return "the file dialog's answer was never taken";
         }
         return (QFile::exists(file) ? pdfText(file) : "no file") + "|" + boxes.texts.join("|");
     }
