@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets in build-fuzz/ (clang, address and undefined-behaviour checks) and
-# runs each for the given seconds (default 60) on a corpus seeded from the project's templates
-# and test data, printing its executions, coverage and crashes. Inputs that crash are left in
-# build-fuzz/crashes/<target>/.
+# runs each, or those named after the seconds (csv, staffnum, xml, opendb), for the given seconds
+# (default 60) on a corpus seeded from the project's templates and test data, printing its
+# executions, coverage and crashes. Inputs that crash are left in build-fuzz/crashes/<target>/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds="${1:-60}"
+targets="${*:2}"
 . scripts/deps.sh
 rostera_install_missing
 rostera_install_missing clang libclang-rt-dev
@@ -41,9 +42,9 @@ db.commit()
 PY
 
 export LSAN_OPTIONS="suppressions=$PWD/fuzz/lsan.supp"
-rm -rf build-fuzz/crashes
 status=0
-for target in csv staffnum xml opendb; do
+for target in ${targets:-csv staffnum xml opendb}; do
+    rm -rf "build-fuzz/crashes/$target"
     mkdir -p "build-fuzz/corpus/$target" "build-fuzz/crashes/$target"
     echo "== fuzz_$target for $seconds s"
     build-fuzz/fuzz/fuzz_$target -max_total_time="$seconds" -print_final_stats=1 -rss_limit_mb=4096 \
