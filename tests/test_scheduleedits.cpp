@@ -96,7 +96,7 @@ private slots:
     // "G/S": S of G by schedule.
     void adjust_data()
     {
-        addColumns({"row"});
+        QTest::addColumn<QString>("row");
         QTest::addColumn<int>("col");
         addColumns({"stored", "cell", "value"});
         addColumns<bool>({"commit", "answer"});

@@ -81,7 +81,7 @@ private slots:
     }
     void options()
     {
-        const int command = field<int>("command");
+        QFETCH(int, command);
         QFile::remove(getAppDataPath(0));
         for (const QString &pair : field("stored").split(';', Qt::SkipEmptyParts))
             setOption(pair.section('=', 0, 0), pair.section('=', 1));
