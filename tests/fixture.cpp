@@ -1,13 +1,5 @@
 #include "fixture.h"
-#include "ui_rosteramain.h"
 
-#include <QDir>
-#include <QFileDialog>
-#include <QFile>
-#include <QProcess>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QSettings>
 #include <QSqlQuery>
 #include <QSqlRecord>
 

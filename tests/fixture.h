@@ -4,12 +4,8 @@
 // the schedule table as text, scripted chance, message boxes and dialogs answered by timer,
 // and the main window over the default database.
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPointer>
-#include <QSettings>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 #include <initializer_list>
@@ -20,6 +16,7 @@
 #include "mainwindow/rosteramain.h"
 #include "mainwindow/toolbar.h"
 #include "persistence/databasefunc.h"
+#include "ui_rosteramain.h"
 
 // HOME and the XDG folders point into a fresh temporary folder before the application object
 // exists, so no real user data is touched; removed again at exit.

@@ -1,5 +1,4 @@
-#include <QDomDocument>
-#include <QRandomGenerator>
+#include <QDomNode>
 
 #include "core/helpers.h"
 #include "core/sortinfo.h"

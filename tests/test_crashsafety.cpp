@@ -5,12 +5,8 @@
 // delete their span before they save, in two transactions as the program does it: their span may
 // also be found empty, but never part filled. A cell commit that moves an employee to another
 // shift removes before it adds, so the employee may be found in neither shift, never in both.
-#include <QElapsedTimer>
-#include <QRandomGenerator>
-#include <QThread>
 
 #include "fixture.h"
-#include "ui_rosteramain.h"
 
 static const QDate kMonday(2026, 3, 2);
 static const QStringList kKinds = {"group",    "staff", "shift",      "row", "holiday",

@@ -1,6 +1,5 @@
 // The demand of a row, availability, the rotation, and generation with scripted chance.
 #include "fixture.h"
-#include "ui_rosteramain.h"
 #include "engine/enginecommon.h"
 #include "engine/rosterasettings.h"
 #include "engine/workdateassign.h"

@@ -10,7 +10,6 @@
 
 #include "core/csvfile.h"
 #include "fixture.h"
-#include "ui_rosteramain.h"
 #include "mainwindow/appstart.h"
 #include "reports/reports.h"
 

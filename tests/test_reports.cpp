@@ -1,13 +1,14 @@
 // The reports: each printed through the dialog to a PDF file and read back as text, its refusals and what it keeps
-// in the configuration file; then the pages of each report drawn directly: frames, bodies and continuation.
+// in the configuration file; then the pages of each report drawn directly: frames, bodies and continuation; and the
+// calendar export.
 #include "fixture.h"
 
-#include <QFileDialog>
 #include <QPrinter>
-#include <QTemporaryDir>
 
+#include "reports/calendarexport.h"
 #include "reports/reports.h"
 #include "reports/reportsettings.h"
+#include "ui_calendarexport.h"
 #include "ui_reports.h"
 #include "ui_reportsettings.h"
 
@@ -45,34 +46,45 @@ static const QString kPlan = "shift S/SA/08:00/09:30 M/M/08:00/13:50 N/N/22:00/0
                              " Z/H | row G/S/1;2;0;0;0;0;0 G/N/1;1;1;1;1;1;1 | schedule 2026-03-02/G/S/A;B"
                              " 2026-03-03/G/M/A;C 2026-03-03/G/N/D;Z 2026-03-02/G/X/B 2026-03-08/G/N/F";
 
+static const QString kNight = QString("Nachtschicht-über-Mitternacht-für-die-Küche-und-den-Empfang-bis-zum-Morgen");
+
+// Runs the command, sets the dialog (group box index, person, one file, from, to) and presses OK, then Cancel if
+// it stays open.
+static void exportCalendar(RosteraMain *window, int group, const QString &person, bool oneFile, const QDate &from,
+                           const QDate &to)
+{
+    whenDialogOpens<CalendarExport>([=](CalendarExport *dialog) {
+        dialog->ui->cmb_group->setCurrentIndex(group);
+        dialog->ui->cmb_person->setCurrentText(person);
+        dialog->ui->rb_file->setChecked(oneFile);
+        dialog->ui->date_from->setDate(from);
+        dialog->ui->date_to->setDate(to);
+        dialog->ui->buttonBox->button(QDialogButtonBox::Ok)->click();
+        if (dialog->isVisible())
+            dialog->reject();
+    });
+    window->ui->actionExport_Calendar->trigger();
+}
+
+// Each event of the files as "file|uid|start|end|summary", as the parser reads them.
+static QStringList parsed(const QStringList &files)
+{
+    QProcess python;
+    python.start(QStandardPaths::findExecutable("python3", {"/usr/bin"}),
+                 QStringList{"-c", "import sys, icalendar\nfor p in sys.argv[1:]:\n"
+                                   "  for e in icalendar.Calendar.from_ical(open(p, 'rb').read()).walk('VEVENT'):\n"
+                                   "    print(p.split('/')[-1], e['UID'], e.decoded('DTSTART').isoformat(),"
+                                   " e.decoded('DTEND').isoformat(), e['SUMMARY'], sep='|')"}
+                     + files);
+    python.waitForFinished();
+    const QString errors = QString::fromUtf8(python.readAllStandardError());
+    return QString::fromUtf8(python.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts)
+           + (errors.isEmpty() ? QStringList() : QStringList{errors});
+}
+
 class TestReports : public QObject
 {
     Q_OBJECT
-    const QString file = QDir::temp().filePath("report");
-    // Prints through the buttons: the PDF's text (pages end in form feeds, blanks squeezed) or "no file",
-    // then "|" and the words of the message boxes. A lost file's folder is gone once the name is given.
-    QString print(Reports &dialog, int row, const QString &group, const QString &person, bool lost = false)
-    {
-        const QString gone = QDir::temp().filePath("gone");
-        QDir().mkpath(gone);
-        QFile::remove(file);
-        dialog.ui->listWidget->setCurrentRow(row);
-        dialog.ui->cmb_group->setCurrentText(group);
-        dialog.ui->ck_printPdf->setChecked(true);
-        dialog.ui->cmb_person->setCurrentIndex(dialog.ui->cmb_person->findText(person));
-        QStringList seen;
-        Boxes boxes;
-        answerFileDialog(lost ? gone + "/report" : file, &seen, [gone] { QDir(gone).removeRecursively(); });
-        QTest::mouseClick(dialog.ui->btn_print, Qt::LeftButton);
-        if (seen.isEmpty()) { // nobody asked: the answer goes to a spare dialog
-            QFileDialog spare(nullptr, {}, gone);
-            spare.show();
-            if (!QTest::qWaitFor([&spare] { return !spare.isVisible(); }))
-                return "the file dialog's answer was never taken";
-        }
-        return (QFile::exists(file) ? pdfText(file) : "no file") + "|" + boxes.texts.join("|");
-    }
-
 private slots:
     // Group G: Ann and Bob, mostly on the day shift; H: Cy early; E: nobody; Nob has no group.
     void initTestCase()
@@ -83,8 +95,8 @@ private slots:
                           " 2026-03-03/G/Day/Bob 2026-03-05/G/Day/Bob 2026-03-05/G/Early/Ann 2026-03-02/H/Early/Cy"
                           " 2026-03-20/G/Day/Ann 2026-04-01/G/Day/Cy 2026-04-20/G/Day/Ann"));
     }
-    // Each report of 03-02 to 04-10: its pages, its texts in order ("!": not there; "=": the whole result).
-    // "<All>" prints the employees without a group first, then each group.
+    // Each report of 03-02 to 04-10 printed by the buttons to a PDF: its pages, its texts in order ("!": not there;
+    // "=": the whole text, "|" and the words of the message boxes). "<All>" prints those without a group first.
     void reports_data()
     {
         addColumns<int>({"row", "pages"});
@@ -113,10 +125,25 @@ private slots:
     void reports()
     {
         QFETCH(QString, texts);
+        const QString file = QDir::temp().filePath("report");
+        QFile::remove(file);
         Reports dialog;
         dialog.ui->date_from->setDate({2026, 3, 2});
         dialog.ui->date_to->setDate({2026, 4, 10});
-        const QString text = print(dialog, field<int>("row"), field("group"), field("person"));
+        dialog.ui->listWidget->setCurrentRow(field<int>("row"));
+        dialog.ui->cmb_group->setCurrentText(field("group"));
+        dialog.ui->ck_printPdf->setChecked(true);
+        dialog.ui->cmb_person->setCurrentIndex(dialog.ui->cmb_person->findText(field("person")));
+        QStringList seen;
+        Boxes boxes;
+        answerFileDialog(file, &seen);
+        QTest::mouseClick(dialog.ui->btn_print, Qt::LeftButton);
+        if (seen.isEmpty()) { // nobody asked: the answer goes to a spare dialog
+            QFileDialog spare;
+            spare.show();
+            QVERIFY2(QTest::qWaitFor([&spare] { return !spare.isVisible(); }), "the file dialog's answer went nowhere");
+        }
+        const QString text = (QFile::exists(file) ? pdfText(file) : "no file") + "|" + boxes.texts.join("|");
         qsizetype at = 0;
         QTEST(int(text.count('\f')), "pages");
         for (const QString &item : texts.split('|', Qt::SkipEmptyParts))
@@ -227,6 +254,51 @@ private slots:
             QVERIFY2(line.startsWith('=') ? words.count(line.mid(1)) == 1
                                           : all.contains(line.mid(line.startsWith('!'))) != line.startsWith('!'),
                      qPrintable(line));
+    }
+    // The calendar export: files read back by an independent iCalendar parser (python3-icalendar), identities kept
+    // over exports, and the messages when nothing or nowhere can be written.
+    void calendarExport()
+    {
+        if (QProcess::execute(QStandardPaths::findExecutable("python3", {"/usr/bin"}), {"-c", "import icalendar"}) != 0)
+            QSKIP("python3-icalendar is missing");
+        // An hour east of UTC in March, without tzdata: the times written are the local ones less an hour.
+        qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+        QVERIFY(writePlan("group G | shift Day/D/09:00/17:00 " + kNight + "/N/22:00/06:00 Odd,one;two/O/14:00/14:00"
+                          " Vague/V/x/y | staff A/G N/ | schedule 2026-03-02/G/Day/A 2026-03-02/G/" + kNight
+                          + "/A 2026-03-03/G/Odd,one;two/N;A 2026-03-04//Vague/N 2026-03-20/G/Day/A"));
+        QScopedPointer<RosteraMain> window(openWindow());
+        QVERIFY(window);
+        const QString folder = TestHome::path() + "/calendars";
+        QVERIFY(QDir().mkpath(folder));
+        Boxes boxes;
+        answerFileDialog(folder);
+        exportCalendar(window.get(), 0, "<All>", false, {2026, 3, 1}, {2026, 3, 10});
+        const QStringList events = parsed({folder + "/A.ics", folder + "/N.ics"});
+        QStringList shown;
+        for (const QString &event : events)
+            shown << event.section('|', 0, 0) + "|" + event.section('|', 2);
+        const QString odd = "2026-03-03T13:00:00+00:00|2026-03-04T13:00:00+00:00|Shift: Odd,one;two (G)";
+        const QString night = "2026-03-02T21:00:00+00:00|2026-03-03T05:00:00+00:00|Shift: " + kNight + " (G)";
+        QCOMPARE(shown, QStringList({"A.ics|2026-03-02T08:00:00+00:00|2026-03-02T16:00:00+00:00|Shift: Day (G)",
+                                     "A.ics|" + night, "A.ics|" + odd, "N.ics|" + odd,
+                                     "N.ics|2026-03-04|2026-03-05|Shift: Vague"}));
+        QCOMPARE(boxes.texts, QStringList{"2 calendar file(s) written."});
+        // Every line ends in CR LF and holds at most 75 octets; the same assignments keep their identities, the time
+        // stamp aside.
+        QFile file(folder + "/A.ics");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray first = file.readAll();
+        for (const QByteArray &line : first.split('\n'))
+            QVERIFY2(line.isEmpty() || (line.endsWith('\r') && line.size() <= 76), line);
+        window->employeeLockSchedule = true;
+        answerFileDialog(folder + "/one.ics");
+        exportCalendar(window.get(), 2, "A", true, {2026, 3, 2}, {2026, 3, 3});
+        window->employeeLockSchedule = false;
+        const QStringList again = parsed({folder + "/one.ics"});
+        QCOMPARE(again.size(), 3);
+        QCOMPARE(again[2].section('|', 1, 1) + again[2].section('|', 4),
+                 events[2].section('|', 1, 1) + "Customer: Odd,one;two (G)");
+        QVERIFY(!first.contains("Customer"));
     }
 };
 
