@@ -333,10 +333,10 @@ int main(int argc, char **argv)
         return 1;
     }
     if (args.value(0) == "--scaling") {
-        scaling(out, TestHome::path());
+        scaling(out, QDir::homePath());
     } else {
-        single(out, size, TestHome::path());
-        reportBench(out, TestHome::path());
+        single(out, size, QDir::homePath());
+        reportBench(out, QDir::homePath());
     }
     out.flush();
     getDB()->closeDB();

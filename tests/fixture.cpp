@@ -36,15 +36,8 @@ TestHome::~TestHome()
     QDir(g_home).removeRecursively();
 }
 
-QString TestHome::path()
-{
-    return g_home;
-}
-
-QString TestHome::file(const QString &name)
-{
-    return g_home + "/" + name;
-}
+const QStringList kTables{"t_groupinfo", "t_staffinfo", "t_shiftinfo", "t_permanentschedule", "t_holidayinfo",
+                          "t_vacationinfo", "t_lock_employee", "t_schedule"};
 
 ASAttribute record(std::initializer_list<std::pair<QString, QString>> values)
 {
@@ -188,24 +181,8 @@ QVector<QDate> daysFrom(const QDate &first, int count)
     return dates;
 }
 
-static QVector<int> g_draws;
-static int g_drawn = 0;
-
-void scriptDraws(const QVector<int> &values)
-{
-    g_draws = values;
-    g_drawn = 0;
-}
-
-static int scriptedDraw()
-{
-    return g_draws.value(g_drawn++, 0);
-}
-
-int drawsTaken()
-{
-    return g_drawn;
-}
+QVector<int> scriptedDraws;
+int drawsTaken = 0;
 
 Boxes::Boxes(QList<QMessageBox::StandardButton> answers, QMessageBox::StandardButton rest)
     : m_answers(answers), m_rest(rest)
@@ -258,7 +235,7 @@ RosteraMain *openWindow()
     if (!getDB()->isOpen() && !getDB()->openDB(QString()))
         return nullptr;
     auto *window = new RosteraMain;
-    window->randomNumber = scriptedDraw;
+    window->randomNumber = [] { return scriptedDraws.value(drawsTaken++, 0); };
     window->show();
     return QTest::qWaitForWindowExposed(window) ? window : nullptr;
 }

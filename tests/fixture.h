@@ -1,8 +1,7 @@
 #pragma once
 
-// The one fixture of every test program: a temporary home, plans written from a short text,
-// the schedule table as text, scripted chance, message boxes and dialogs answered by timer,
-// and the main window over the default database.
+// The one fixture of every test program: a temporary home, plans written from a short text, the schedule table as
+// text, scripted chance, message boxes and dialogs answered by timer, and the main window over the default database.
 
 #include <QtTest>
 #include <QtWidgets>
@@ -18,17 +17,18 @@
 #include "persistence/databasefunc.h"
 #include "ui_rosteramain.h"
 
-// HOME and the XDG folders point into a fresh temporary folder before the application object
+// HOME and the XDG folders point into a fresh temporary folder (file() names one in it) before the application object
 // exists, so no real user data is touched; removed again at exit.
 class TestHome
 {
 public:
     TestHome();
     ~TestHome();
-    static QString path();
-    // A file of the home by name.
-    static QString file(const QString &name);
+    static QString file(const QString &name) { return QDir::homePath() + "/" + name; }
 };
+
+// The plan's tables in the order of writePlan's kinds: group, staff, shift, row, holiday, vacation, lock, schedule.
+extern const QStringList kTables;
 
 ASAttribute record(std::initializer_list<std::pair<QString, QString>> values);
 
@@ -51,27 +51,22 @@ bool saveRecords(const QString &kind, QVector<ASAttribute> records);
 QString show(const QVector<ASAttribute> &records);
 // t_schedule as "date group shift staffs" lines in key order.
 QStringList scheduleTable();
-// Rows of a statement on the open file, each value as text; a failing statement gives one row
-// that names it.
+// Rows of a statement on the open file, each value as text; a failing statement gives one row that names it.
 QList<QStringList> rows(const QString &sql);
-// The same rows as text: values joined by fieldSep, rows by rowSep.
 QString rowsText(const QString &sql, const QString &fieldSep = ",", const QString &rowSep = " | ");
 bool writeFile(const QString &path, const QByteArray &content);
-// The configuration file of the temporary home.
 QSettings config();
 // A PDF's text as pdftotext lays it out, runs of blanks squeezed to one; pages end in form feeds.
 QString pdfText(const QString &path);
-// Sets "Options/<key>" in the configuration file.
 void setOption(const QString &key, const QVariant &value);
 QVector<QDate> daysFrom(const QDate &first, int count);
 
-// A scripted source for RosteraMain::randomNumber (drawn by every window openWindow opens); draws
-// beyond the script give 0.
-void scriptDraws(const QVector<int> &values);
-int drawsTaken();
+// The draws of RosteraMain::randomNumber (of every window openWindow opens) and how many were taken; beyond them 0.
+extern QVector<int> scriptedDraws;
+extern int drawsTaken;
 
-// While it lives, answers each message box in turn with the next of the given buttons, then
-// with `rest` (or the box's default button where it has no such button), and keeps its words.
+// While it lives, answers each message box in turn with the next of the given buttons, then with `rest` (or the
+// box's default button where it has no such button), and keeps its words.
 class Boxes : public QObject
 {
 public:
@@ -120,8 +115,7 @@ void whenDialogOpens(const std::function<void(T *)> &action)
     timer->start(20);
 }
 
-// Answers the next file dialog with a file, keeps its caption, filters and folder in *seen, then
-// runs after (which may spoil the file).
+// Answers the next file dialog with a file, keeps its caption, filters and folder in *seen, then runs after.
 void answerFileDialog(const QString &file, QStringList *seen = nullptr,
                       const std::function<void()> &after = {});
 

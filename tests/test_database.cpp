@@ -12,8 +12,8 @@ static const QStringList kCreate = {
     "CREATE TABLE [t_lock_employee] ([staffids] NVARCHAR(100) NOT NULL ON CONFLICT FAIL,[date] DATE,[shiftname] NVARCHAR(100),[note] NVARCHAR(400),[valid] TINYINT(1),primary key(staffids,date))",
     "CREATE TABLE [t_schedule] ([date] DATE NOT NULL ON CONFLICT FAIL, [groupname] NVARCHAR(100), [shiftname] NVARCHAR(100), [staffs] NVARCHAR(1000), primary key (date,groupname,shiftname))",
     "CREATE TABLE [t_version] ([version] NCHAR(20))"};
-// The standing rows' table before the upgrade to 1.01, after it (a blank more than new), and one whose
-// rows no connection can read.
+// The standing rows' table before the upgrade to 1.01, after it (a blank more than new), and one whose rows no
+// connection can read.
 static const QString kOldRule = QString(kCreate[3]).remove(",[employee_name] NVARCHAR(100)");
 static const QString kNewRule = QString(kCreate[3]).replace(",[employee_name]", ", [employee_name]");
 static const QString kBadRule =
@@ -36,7 +36,7 @@ private slots:
     {
         useWarningBoxes();
         if (QDir::isAbsolutePath(QCoreApplication::arguments().value(0)))
-            QDir::setCurrent(TestHome::path());
+            QDir::setCurrent(TestHome::file("."));
     }
     void init()
     {
@@ -54,8 +54,7 @@ private slots:
         config().setValue("lastdb", TestHome::file("no/such/x.db"));
         QVERIFY(!openStartDatabase() && db->getDBName() == TestHome::file("kept.db")
                 && rowsText("SELECT name FROM t_groupinfo") == "Only" && show(db->groups) == "abbreviation=Only name=Only");
-        // A file that is no database opens but answers no query: it has every table, at version "1.00", and its
-        // upgrade fails.
+        // A file that is no database opens but answers no query: it has every table, at "1.00", and its upgrade fails.
         const QByteArray junk = QByteArray("This is a shopping list and no database at all.\n").repeated(40);
         QVector<ASAttribute> out, staffs = db->staffs;
         QVERIFY(writeFile(TestHome::file("list.db"), junk) && db->openDB(TestHome::file("list.db")) && db->isExistTable("t_none")
@@ -63,8 +62,8 @@ private slots:
         QVERIFY(!db->groupInfo(out) && !db->staffInfo(out) && !db->shiftInfo(out) && !db->permanentSchedule(out)
                 && !db->holidayInfo(out) && !db->schedule(out, "1=1"));
         QVERIFY(out.isEmpty() && db->staffs == staffs && content(TestHome::file("list.db")) == junk);
-        // A read-only file of an older program: the first table it lacks can't be made, and there it ends; a
-        // save fails and keeps everything.
+        // A read-only file of an older program: the first table it lacks can't be made, and there it ends; a save
+        // fails and keeps everything.
         QVERIFY(db->openDB(TestHome::file("readonly.db")) && rows("DROP TABLE t_holidayinfo").isEmpty()
                 && rows("DROP TABLE t_version").isEmpty() && db->openDB(TestHome::file("kept.db")));
         const QByteArray before = content(TestHome::file("readonly.db"));

@@ -121,14 +121,14 @@ private slots:
         const QString flags = field("flags"), view = flags.section(' ', -1);
         window->employeeLockSchedule = flags.contains("lock");
         setView(window, view.left(1).toInt(), view.left(1).toInt() ? view.mid(1) : QString());
-        QVector<int> draws;
+        scriptedDraws.clear();
         for (const QString &draw : field("draws").split(' '))
-            draws << draw.toInt();
-        scriptDraws(draws);
+            scriptedDraws << draw.toInt();
+        drawsTaken = 0;
         window->cycleDates = daysFrom(kMonday, field("days").toInt());
         QVERIFY(window->auto_schedule(window->cycleDates, !flags.contains("keep")));
         QCOMPARE(table(), field("table"));
-        QCOMPARE(drawsTaken(), int(draws.size()));
+        QCOMPARE(drawsTaken, int(scriptedDraws.size()));
         QString stats, order;
         for (int i : window->shuffledStaff)
             order += QString::number(i);
@@ -138,8 +138,7 @@ private slots:
         QVERIFY(window->holidays.isEmpty() && window->vacations.isEmpty());
     }
     // The second command's span (the cycle's first date and length in calendar days, work days only) bounds what is
-    // deleted and kept, but the whole cycle is filled, so a second run meets the first's Thursday and fails. Cancel
-    // ends a command.
+    // deleted and kept, but the whole cycle is filled: a second run meets the first's Thursday and fails. Cancel ends.
     void commands()
     {
         QVERIFY(plan("staff A/G | row G/S/1;1;1;1;0;0;0 | schedule 2026-03-02/G/S/x 2026-03-04/G/S/y "

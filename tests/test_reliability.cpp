@@ -1,12 +1,10 @@
-// Hostile files and surroundings, and saves killed at random moments.
-// Plans locked by another program, written by a newer version, with tables of other columns, a disk that takes no
-// more bytes, a configuration of junk, huge or binary CSV files, and a program folder without its templates are each
-// met with the message the user is owed, and nothing is lost.
-// A child process (this program with the arguments "child", a kind and the plan file) saves one kind over and over;
-// the parent kills it with SIGKILL after a random delay and opens the file. SQLite's journal keeps each transaction
-// whole, so a table saved in one transaction holds its old or its new content, never a mixture. Generation and copy
-// delete their span before they save, in two transactions as the program does it: their span may also be found
-// empty, but never part filled. A cell commit that moves an employee to another shift removes before it adds, so
+// Hostile files and surroundings: plans locked, newer or of other columns, a full disk, a junk configuration, huge or
+// binary CSV files, no templates; each is met with the message the user is owed, and nothing is lost.
+// Saves killed at random moments: a child process (this program with the arguments "child", a kind and the plan file)
+// saves one kind over and over; the parent kills it with SIGKILL after a random delay and opens the file. SQLite's
+// journal keeps each transaction whole: a table saved in one transaction holds its old or its new content. Generation
+// and copy delete their span before they save, in two transactions as the program does it: their span may also be
+// found empty, but never part filled. A cell commit that moves an employee to another shift removes before it adds, so
 // the employee may be found in neither shift, never in both.
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -19,8 +17,7 @@
 #include "mainwindow/appstart.h"
 #include "reports/reports.h"
 
-// While it lives, no file of this process may grow beyond the given size: a full disk, as
-// SQLite meets it, without a file system of its own.
+// While it lives, no file of this process may grow beyond the given size: a full disk as SQLite meets it.
 class FileSizeLimit
 {
 public:
@@ -56,7 +53,6 @@ static QVector<ASAttribute> records(const QString &kind, const QString &prefix, 
 static const QString kPlan =
     "staff A/G B/G C/G D/G E/H F/H | row G/S/2;2;2;2;2;2;2 G/T/1;1;1;1;1;1;1 H/S/1;1;1;1;1;1;1";
 
-// The child's endless saves, alternating 200 records of "A" and 300 of "B" (a generation or copy of 31 days).
 // Sets A's cell to the shift it holds now and gives the other one.
 static QString shiftOfA(RosteraMain &window, const QString &now)
 {
@@ -73,6 +69,7 @@ static QString shiftsOfA()
                     "", " ");
 }
 
+// The child's endless saves, alternating 200 records of "A" and 300 of "B" (a generation or copy of 31 days).
 static int child(const QString &kind, const QString &file)
 {
     if (!getDB()->openDB(file))
@@ -103,12 +100,6 @@ static int child(const QString &kind, const QString &file)
     }
 }
 
-static QString tableOf(const QString &kind)
-{
-    return QStringList{"t_groupinfo", "t_staffinfo", "t_shiftinfo", "t_permanentschedule", "t_holidayinfo",
-                       "t_vacationinfo", "t_lock_employee"}
-        .value(kKinds.indexOf(kind), "t_schedule");
-}
 
 class TestReliability : public QObject
 {
@@ -136,8 +127,8 @@ private slots:
         QVERIFY(QDir(getAppDataPath(2)).isEmpty());
         QVERIFY(boxes.texts.isEmpty());
     }
-    // Another program holds the plan: while it writes, this one reads but its saves wait and
-    // fail, keeping both; while it holds the whole file, the plan is not opened at all.
+    // Another program holds the plan: while it writes, this one reads but its saves wait and fail, keeping both; while
+    // it holds the whole file, the plan is not opened at all.
     void lockedByAnotherProgram()
     {
         Boxes boxes;
@@ -194,8 +185,8 @@ private slots:
         QCOMPARE(scheduleTable(), QStringList{"2026-03-02 G S C"});
         delete window;
     }
-    // A plan of a newer version opens as it stands, with a word that this version may not keep
-    // all of it; tables of other columns are read by position and refuse a save.
+    // A plan of a newer version opens as it stands, with a word that this version may not keep all of it; tables of
+    // other columns are read by position and refuse a save.
     void foreignPlans()
     {
         QVERIFY(db->openDB(TestHome::file("newer.db")) && writePlan("group G"));
@@ -214,8 +205,8 @@ private slots:
         QVERIFY(!db->saveStaffInfo(staff));
         QCOMPARE(rowsText("SELECT id, lname FROM t_staffinfo"), "E1,Bell");
     }
-    // A configuration written by hand or by accident: wrong types, binary bytes, numbers out of
-    // range. The program starts and shows its grid.
+    // A configuration written by hand or by accident: wrong types, binary bytes, numbers out of range. The program
+    // starts and shows its grid.
     void junkConfiguration()
     {
         QVERIFY(db->openDB(TestHome::file("config.db")) && writePlan("staff A/G | row G/S/1;1;1;1;1;1;1"));
@@ -302,14 +293,14 @@ private slots:
             QVERIFY(process.waitForFinished());
             QVERIFY(getDB()->openDB(file));
             QCOMPARE(rows("PRAGMA integrity_check"), QList<QStringList>{{"ok"}});
-            const QString count = kind == "cell" ? shiftsOfA() : rowsText("select count(*) from " + tableOf(kind));
+            const QString table = kTables.value(kKinds.indexOf(kind), "t_schedule");
+            const QString count = kind == "cell" ? shiftsOfA() : rowsText("select count(*) from " + table);
             QVERIFY2(whole.contains(count), qPrintable(kind + " holds " + count));
             seen << count;
             getDB()->closeDB();
         }
-        // The kills met both contents, so they fell inside the saves' runs and not before them. (Generation and copy
-        // write the same content each round: only a kill between their delete and their save, rare on a fast disk,
-        // shows another.)
+        // The kills met both contents, so they fell inside the saves' runs. (Generation and copy write the same content
+        // each round: only a kill between their delete and their save, rare on a fast disk, shows another.)
         QVERIFY2(kind == "generation" || kind == "copy" || (seen.removeDuplicates() < 24 && seen.size() >= 2),
                  qPrintable(seen.join(' ')));
     }
@@ -324,7 +315,7 @@ int main(int argc, char **argv)
     }
     TestHome home;
     // Started from a folder with no support folder beside it: no templates, no help.
-    QByteArray program = (TestHome::path() + "/bare/bin/test_reliability").toLocal8Bit();
+    QByteArray program = TestHome::file("bare/bin/test_reliability").toLocal8Bit();
     argv[0] = program.data();
     QApplication app(argc, argv);
     TestReliability test;

@@ -1,6 +1,5 @@
-// The reports: each printed through the dialog to a PDF file and read back as text, its refusals and what it keeps
-// in the configuration file; then the pages of each report drawn directly: frames, bodies and continuation; and the
-// calendar export.
+// The reports printed through the dialog to PDF files read back as text, their refusals and settings; the pages of
+// each report drawn directly (frames, bodies, continuation); the calendar export.
 #include "fixture.h"
 
 #include <QPrinter>
@@ -154,8 +153,8 @@ private slots:
             else
                 QVERIFY2((at = text.indexOf(item, at)) >= 0, qPrintable(item + " not in order in " + text));
     }
-    // Titles and detail switches reach the stored text and the open dialog on acceptance only. The
-    // monthly reports have no page in the settings dialog, yet their stored titles survive.
+    // Titles and detail switches reach the stored text and the open dialog on acceptance only. The monthly reports
+    // have no page in the settings dialog, yet their stored titles survive.
     void settings()
     {
         const char *key = "print settings/print configure";
@@ -268,7 +267,7 @@ private slots:
                           + "/A 2026-03-03/G/Odd,one;two/N;A 2026-03-04//Vague/N 2026-03-20/G/Day/A"));
         QScopedPointer<RosteraMain> window(openWindow());
         QVERIFY(window);
-        const QString folder = TestHome::path() + "/calendars";
+        const QString folder = TestHome::file("calendars");
         QVERIFY(QDir().mkpath(folder));
         Boxes boxes;
         answerFileDialog(folder);

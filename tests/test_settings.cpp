@@ -47,8 +47,6 @@ static void answerEditor(QString *seen, ASAttribute input)
 }
 
 static const QStringList kKinds{"group", "staff", "shift", "permanentSchedule"};
-static const QStringList kTables{"t_groupinfo", "t_staffinfo", "t_shiftinfo", "t_permanentschedule", "t_holidayinfo",
-                                 "t_vacationinfo", "t_lock_employee", "t_schedule"};
 
 // Rows joined by "|", their values by ",": of a table widget, or (stored()) of a table of the file.
 static QString cells(const QTableWidget *table)
@@ -99,8 +97,8 @@ private slots:
         dialog = new Settings;
     }
     void cleanup() { delete dialog; }
-    // Every way in opens its tab. Each opening shows the options as stored and writes all five back
-    // when the dialog closes, whatever it was given; the grid follows them at once.
+    // Every way in opens its tab. Each opening shows the options as stored and writes all five back when the dialog
+    // closes, whatever it was given; the grid follows them at once.
     void options_data()
     {
         QTest::addColumn<int>("command"); // of the Settings menu; 6 is the tool strip's button
@@ -136,16 +134,15 @@ private slots:
         QTEST(QString("%1 %2 %3 | %4").arg(shown, window->cycleDates.value(0).toString("MM-dd"))
                   .arg(window->cycleDates.size()).arg(storedOptions()), "result");
     }
-    // Per list: Edit without a current item opens nothing; Add shows the defaults and refuses OK on
-    // an empty record; Save is refused for a duplicate key; Remove, Edit by a double click and a tick
-    // wait for Save. An import replaces the list: "valid" not a number unticks, no "valid" ticks.
+    // Per list: Edit without a current item opens nothing; Add shows the defaults and refuses OK on an empty record;
+    // Save is refused for a duplicate key; Remove, Edit by a double click and a tick wait for Save. An import replaces
+    // the list: "valid" not a number unticks, no "valid" ticks.
     void lists_data()
     {
         // Records added as a plan writes them (the last a duplicate key), the first item edited to, the file imported.
         QTest::addColumn<QStringList>("input");
-        // The editor for a new record and on Edit | the table after the refused Save, after Remove and Save, after
-        // Edit, a tick and Save | the items | the boxes | the exported header | the items and the table after import
-        // and Save.
+        // The editor for a new record and on Edit | the table after the refused Save, after Remove and Save, after Edit,
+        // a tick and Save | the items | the boxes | the exported header | the items and the table after import, Save.
         QTest::addColumn<QString>("result");
         QTest::newRow("holiday")
             << QStringList{"2026-04-05/2/0/1/Easter 2026-12-25/1/1/1/h2026-12-25", "2027-01-01/3/1/0/NewYear",
@@ -218,14 +215,14 @@ private slots:
         press("save");
         QTEST((result << items(list) << storedRows(name)).join(' '), "result");
     }
-    // Save is refused for a key twice and keeps the rows typed, and writes only its own table. An export
-    // read back gives the same rows, but for the designated employee, which has no column in the file. A file
-    // that turns into a folder before it is written, is gone, holds a header only or names no field, changes nothing.
+    // Save is refused for a key twice and keeps the rows typed, and writes only its own table. An export read back
+    // gives the same rows, but for the designated employee, which has no column in the file. A file that turns into a
+    // folder before it is written, is gone, holds a header only or names no field, changes nothing.
     void saveAndExchange_data()
     {
         QTest::addColumn<int>("tab");
-        // A new row repeating a key, the message on Save and the row as it stays; then the row as
-        // it is changed to, the database table after Save, the header of its file, an option on.
+        // A new row repeating a key, the message on Save and the row as it stays; then the row as it is changed to, the
+        // database table after Save, the header of its file, an option on.
         QTest::addColumn<QStringList>("f");
         QTest::newRow("groups") << 0
             << QStringList{"G", "Save failed!\nUNIQUE constraint failed: t_groupinfo.name Unable to "
@@ -356,7 +353,7 @@ private slots:
         QCOMPARE(rule(0, ""), "1;1;1;1;1;1;1");
         QCOMPARE(rule(0, "3"), "1;1;1;1;1;1;1");
         QCOMPARE(cells(table(3)), "G,S,<None>,3;1;1;1;1;1;1|<None>,T,<None>,2;2;2;2;2;2;2");
-        const QString file = TestHome::path() + "/lines.csv";
+        const QString file = TestHome::file("lines.csv");
         answerFileDialog(file);
         click(3, "Export");
         click(3, "Add");
