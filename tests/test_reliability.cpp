@@ -100,7 +100,6 @@ static int child(const QString &kind, const QString &file)
     }
 }
 
-
 class TestReliability : public QObject
 {
     Q_OBJECT
@@ -119,10 +118,8 @@ private slots:
         Boxes boxes;
         QVERIFY(db->openDB(TestHome::file("bare.db")));
         QCOMPARE(rowsText("SELECT COUNT(*) FROM sqlite_master WHERE type='table'"), "9");
-        QCOMPARE(rowsText("SELECT (SELECT COUNT(*) FROM t_groupinfo) + (SELECT COUNT(*) FROM t_staffinfo) + "
-                          "(SELECT COUNT(*) FROM t_shiftinfo) + (SELECT COUNT(*) FROM t_permanentschedule) + "
-                          "(SELECT COUNT(*) FROM t_holidayinfo)"),
-                 "0");
+        for (const QString &table : kTables.mid(0, 5)) // the tables that templates seed
+            QCOMPARE(rowsText("SELECT COUNT(*) FROM " + table), "0");
         QCOMPARE(db->getVersion(), "1.01");
         QVERIFY(QDir(getAppDataPath(2)).isEmpty());
         QVERIFY(boxes.texts.isEmpty());
