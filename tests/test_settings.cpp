@@ -17,11 +17,6 @@ static QString storedOptions()
         values << key + "=" + file.value(key).toString();
     return values.join(' ');
 }
-// A table's rows in stored order, fields joined by "/".
-static QString storedRows(const QString &name)
-{
-    return rowsText("select * from " + name, "/", " ");
-}
 // Item texts, each followed by "+" when ticked.
 static QString items(QListWidget *list)
 {
@@ -48,7 +43,7 @@ static void answerEditor(QString *seen, ASAttribute input)
 
 static const QStringList kKinds{"group", "staff", "shift", "permanentSchedule"};
 
-// Rows joined by "|", their values by ",": of a table widget, or (stored()) of a table of the file.
+// Rows joined by "|", their values by ",": of a table widget, or (stored()) of a table of the file in stored order.
 static QString cells(const QTableWidget *table)
 {
     QStringList lines;
@@ -60,9 +55,9 @@ static QString cells(const QTableWidget *table)
     }
     return lines.join('|');
 }
-static QString stored(const QString &table)
+static QString stored(const QString &table, const QString &separator = ",", const QString &rowSeparator = "|")
 {
-    return rowsText("select * from " + table + " order by rowid", ",", "|");
+    return rowsText("select * from " + table + " order by rowid", separator, rowSeparator);
 }
 
 class TestSettings : public QObject
@@ -174,6 +169,7 @@ private slots:
         QVERIFY(writePlan("staff A/G B/G | holiday 2026-12-25/1/1 | vacation A/2026-03-02/3 | lock B/2026-03-04"));
         const int k = QStringList{"holiday", "vacation", "lock"}.indexOf(kind);
         const QString name = QStringList{"t_holidayinfo", "t_vacationinfo", "t_lock_employee"}.value(k);
+        const auto rows = [&name] { return stored(name, "/", " "); };
         Settings dialog;
         auto *list = dialog.findChild<QListWidget *>(QStringList{"lst_holidays", "lst_vacations", "lst_lock"}.value(k));
         const auto press = [&](const QString &button) {
@@ -189,20 +185,20 @@ private slots:
             press("add");
         }
         press("save");
-        QStringList result{storedRows(name)};
+        QStringList result{rows()};
         list->setCurrentRow(list->count() - 1);
         press("remove");
         press("save");
-        result << storedRows(name);
+        result << rows();
         answerEditor(&edited, planRecords(kind, input[1]).value(0));
         list->setCurrentRow(0);
         emit list->itemDoubleClicked(list->item(0));
         list->item(1)->setCheckState(Qt::Unchecked);
-        QCOMPARE(storedRows(name), result.last());
+        QCOMPARE(rows(), result.last());
         press("save");
         boxes.texts.removeDuplicates();
         result = QStringList{added, edited, "|"} + result;
-        result << storedRows(name) << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
+        result << rows() << "|" << items(list) << "|" << boxes.texts.join(' ') << "|";
         QVERIFY(boxes.titles.join("").isEmpty() && boxes.icons.count(QMessageBox::Warning) == boxes.icons.size());
         const QString path = TestHome::file(kind + ".csv");
         answerFileDialog(path);
@@ -213,7 +209,7 @@ private slots:
         answerFileDialog(path);
         press("import");
         press("save");
-        QTEST((result << items(list) << storedRows(name)).join(' '), "result");
+        QTEST((result << items(list) << rows()).join(' '), "result");
     }
     // Save is refused for a key twice and keeps the rows typed, and writes only its own table. An export read back
     // gives the same rows, but for the designated employee, which has no column in the file. A file that turns into a
