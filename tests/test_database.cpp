@@ -36,7 +36,7 @@ private slots:
     {
         useWarningBoxes();
         if (QDir::isAbsolutePath(QCoreApplication::arguments().value(0)))
-            QDir::setCurrent(TestHome::file("."));
+            QDir::setCurrent(QDir::homePath());
     }
     void init()
     {

@@ -254,8 +254,8 @@ private slots:
                                           : all.contains(line.mid(line.startsWith('!'))) != line.startsWith('!'),
                      qPrintable(line));
     }
-    // The calendar export: files read back by an independent iCalendar parser (python3-icalendar), identities kept
-    // over exports, and the messages when nothing or nowhere can be written.
+    // The calendar export: files read back by an independent iCalendar parser (python3-icalendar), line lengths and
+    // endings, identities kept over exports.
     void calendarExport()
     {
         if (QProcess::execute(QStandardPaths::findExecutable("python3", {"/usr/bin"}), {"-c", "import icalendar"}) != 0)

@@ -170,10 +170,11 @@ private slots:
         const int k = QStringList{"holiday", "vacation", "lock"}.indexOf(kind);
         const QString name = QStringList{"t_holidayinfo", "t_vacationinfo", "t_lock_employee"}.value(k);
         const auto rows = [&name] { return stored(name, "/", " "); };
-        Settings dialog;
-        auto *list = dialog.findChild<QListWidget *>(QStringList{"lst_holidays", "lst_vacations", "lst_lock"}.value(k));
+        delete dialog; // one over this plan
+        dialog = new Settings;
+        auto *list = dialog->findChild<QListWidget *>(QStringList{"lst_holidays", "lst_vacations", "lst_lock"}.value(k));
         const auto press = [&](const QString &button) {
-            dialog.findChild<QPushButton *>("btn_" + button + "_" + kind)->click();
+            dialog->findChild<QPushButton *>("btn_" + button + "_" + kind)->click();
         };
         Boxes boxes;
         list->setCurrentRow(-1);
